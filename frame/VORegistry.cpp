@@ -1,0 +1,137 @@
+#include "frame/VORegistry.h"
+
+#include "platform/os/Registry.h"
+
+#include <vector>
+
+namespace {
+
+// Most texts fit here and are read with one call; longer ones take a second.
+constexpr DWORD kUsualTextBytes = 1024;
+// A value may grow between the question for its size and the read; then both are tried again.
+constexpr int kReadAttempts = 4;
+
+// The text up to its first zero within `bytes` bytes of data; half a character at the end is
+// completed with a zero byte.
+std::wstring TextOf(std::vector<wchar_t>& buffer, DWORD bytes)
+{
+    const size_t whole = bytes / sizeof(wchar_t);
+    const size_t used = whole + bytes % sizeof(wchar_t);
+    if (used > whole)
+        buffer[whole] = static_cast<wchar_t>(buffer[whole] & 0xFF);
+    buffer[used] = L'\0';
+    return std::wstring(buffer.data());
+}
+
+} // namespace
+
+bool IsReadableString(const wchar_t* text)
+{
+    if (!text || IsBadReadPtr(text, sizeof(wchar_t)))
+        return false;
+    return !IsBadStringPtrW(text, static_cast<UINT_PTR>(-1));
+}
+
+CVORegistry::CVORegistry(HKEY root, const wchar_t* path, BOOL create, BOOL flushOnClose,
+                         REGSAM access)
+    : Key(nullptr), Disposition(0), FlushOnClose(flushOnClose), Modified(FALSE)
+{
+    if (!create)
+        os::OpenKey(root, path, access, &Key);
+    else if (os::CreateKey(root, path, access, &Key, &Disposition) != ERROR_SUCCESS)
+        Modified = TRUE;
+}
+
+CVORegistry::~CVORegistry()
+{
+    if (FlushOnClose && Modified)
+        os::FlushKey(Key);
+    os::CloseKey(Key);
+}
+
+BOOL CVORegistry::GetDWORD(const wchar_t* name, DWORD& value) const
+{
+    DWORD read = 0;
+    DWORD size = sizeof(read);
+    if (os::QueryValue(Key, name, nullptr, &read, &size) != ERROR_SUCCESS)
+        return FALSE;
+    value = read;
+    return TRUE;
+}
+
+BOOL CVORegistry::SetDWORD(const wchar_t* name, DWORD value)
+{
+    if (!IsReadableString(name))
+        return FALSE;
+    Modified = TRUE;
+    return os::SetValue(Key, name, REG_DWORD, &value, sizeof(value)) == ERROR_SUCCESS;
+}
+
+std::wstring CVORegistry::GetString(const wchar_t* name, const wchar_t* defaultText)
+{
+    if (!IsReadableString(name))
+        return std::wstring();
+
+    std::vector<wchar_t> buffer;
+    DWORD size = kUsualTextBytes;
+    for (int attempt = 0; attempt < kReadAttempts; ++attempt)
+    {
+        buffer.assign(static_cast<size_t>(size) / sizeof(wchar_t) + 2, L'\0');
+        DWORD type = REG_NONE;
+        const LONG error = os::QueryValue(Key, name, &type, buffer.data(), &size);
+        const bool exists = error == ERROR_SUCCESS || error == ERROR_MORE_DATA;
+        if (exists && type != REG_SZ)
+            return IsReadableString(defaultText) ? std::wstring(defaultText) : std::wstring();
+        if (error == ERROR_SUCCESS)
+            return TextOf(buffer, size);
+        if (error != ERROR_MORE_DATA)
+            break;
+    }
+
+    if (!IsReadableString(defaultText))
+        return std::wstring();
+    SetString(name, defaultText);
+    return std::wstring(defaultText);
+}
+
+BOOL CVORegistry::SetString(const wchar_t* name, const wchar_t* text)
+{
+    if (!IsReadableString(name) || !IsReadableString(text))
+        return FALSE;
+    Modified = TRUE;
+    const size_t bytes = (wcslen(text) + 1) * sizeof(wchar_t);
+    return os::SetValue(Key, name, REG_SZ, text, static_cast<DWORD>(bytes)) == ERROR_SUCCESS;
+}
+
+BOOL CVORegistry::GetBinary(const wchar_t* name, void* buffer, DWORD* size) const
+{
+    if (buffer && size && *size != 0 &&
+        (IsBadReadPtr(buffer, *size) || IsBadWritePtr(buffer, *size)))
+        return FALSE;
+    return os::QueryValue(Key, name, nullptr, buffer, size) == ERROR_SUCCESS;
+}
+
+BOOL CVORegistry::SetBinary(const wchar_t* name, const void* data, DWORD size)
+{
+    if (!data || IsBadReadPtr(data, size))
+        return FALSE;
+    Modified = TRUE;
+    return os::SetValue(Key, name, REG_BINARY, data, size) == ERROR_SUCCESS;
+}
+
+BOOL CVORegistry::DeleteValue(const wchar_t* name)
+{
+    Modified = TRUE;
+    return os::DeleteValue(Key, name) == ERROR_SUCCESS;
+}
+
+BOOL CVORegistry::EnumKey(DWORD index, std::wstring& name) const
+{
+    return os::EnumKey(Key, index, name) == ERROR_SUCCESS;
+}
+
+BOOL CVORegistry::DeleteKeyTree(const wchar_t* name)
+{
+    Modified = TRUE;
+    return os::DeleteKeyTree(Key, name) == ERROR_SUCCESS;
+}

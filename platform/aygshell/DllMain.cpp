@@ -1,0 +1,6 @@
+#include "aygshell.h"
+
+BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, void* /*reserved*/)
+{
+    return TRUE;
+}
