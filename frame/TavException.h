@@ -25,8 +25,7 @@ constexpr HRESULT kTavInvalidArgument = static_cast<HRESULT>(0x80070057);
 constexpr HRESULT HResultOfError(DWORD error)
 {
     const auto signedError = static_cast<HRESULT>(error);
-    return signedError <= 0 ? signedError
-                            : static_cast<HRESULT>((error & 0xFFFFu) | 0x80070000u);
+    return signedError <= 0 ? signedError : static_cast<HRESULT>((error & 0xFFFFu) | 0x80070000u);
 }
 
 // Throws 0x84000001.

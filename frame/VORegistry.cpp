@@ -4,7 +4,8 @@
 
 #include <vector>
 
-namespace {
+namespace
+{
 
 // Most texts fit here and are read with one call; longer ones take a second.
 constexpr DWORD kUsualTextBytes = 1024;

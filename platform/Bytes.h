@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace bytes {
+namespace bytes
+{
 
 // Reads the 16-bit word at p; the caller has checked that 2 bytes are there.
 inline uint16_t GetU16LE(const uint8_t* p)

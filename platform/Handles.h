@@ -51,7 +51,8 @@ private:
     Type m_handle = Traits::Null();
 };
 
-namespace handles {
+namespace handles
+{
 
 template <class Handle>
 struct Nullable

@@ -2,8 +2,10 @@
 
 #include <atomic>
 
-namespace os {
-namespace {
+namespace os
+{
+namespace
+{
 
 struct AtomicCounts
 {
@@ -86,8 +88,7 @@ LONG OpenKey(HKEY root, const wchar_t* path, REGSAM access, HKEY* key)
 {
     *key = nullptr;
     Count(g_counts.open);
-    const LONG error =
-        RegOpenKeyExW(root, WithoutLeadingBackslashes(path), 0, Rights(access), key);
+    const LONG error = RegOpenKeyExW(root, WithoutLeadingBackslashes(path), 0, Rights(access), key);
     if (error != ERROR_SUCCESS)
         *key = nullptr;
     return error;
@@ -140,6 +141,19 @@ LONG EnumKey(HKEY key, DWORD index, std::wstring& name)
         name.resize(error == ERROR_SUCCESS ? length : 0);
         return error;
     }
+}
+
+LONG EnumValue(HKEY key, DWORD index, std::wstring& name)
+{
+    // The registry's own limit of a value name, and its terminator.
+    constexpr DWORD kLongestValueName = 16384;
+    name.resize(kLongestValueName);
+    DWORD length = kLongestValueName;
+    Count(g_counts.enumerate);
+    const LONG error =
+        RegEnumValueW(key, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr);
+    name.resize(error == ERROR_SUCCESS ? length : 0);
+    return error;
 }
 
 LONG DeleteKeyTree(HKEY parent, const wchar_t* name)

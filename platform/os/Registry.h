@@ -8,7 +8,8 @@
 
 #include <string>
 
-namespace os {
+namespace os
+{
 
 // How many system calls of each kind this process has made through this seam.
 struct RegistryCallCounts
@@ -53,6 +54,9 @@ LONG DeleteValue(HKEY key, const wchar_t* name);
 // Gives the name of the subkey at position `index`; ERROR_NO_MORE_ITEMS behind the last one.
 // Names of any length are returned whole.
 LONG EnumKey(HKEY key, DWORD index, std::wstring& name);
+
+// Gives the name of the value at position `index`; ERROR_NO_MORE_ITEMS behind the last one.
+LONG EnumValue(HKEY key, DWORD index, std::wstring& name);
 
 // Deletes the subkey `name` of `parent` with everything below it. A registry link is deleted as
 // such: what it points to stays. Stops at the first failure.

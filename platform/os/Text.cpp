@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 
-namespace os {
-namespace {
+namespace os
+{
+namespace
+{
 
 // One entry per code unit; made once, since a system call per character would cost far more.
 class CFoldTable

@@ -4,7 +4,8 @@
 
 #include "platform/Char16.h"
 
-namespace os {
+namespace os
+{
 
 // The lower-case form of one code unit, as the system's CharLowerBuffW gives it.
 wchar_t FoldCase(wchar_t unit);

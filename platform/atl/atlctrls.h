@@ -1,0 +1,124 @@
+// Thin wrappers of the common controls: one member per message, no state but the handle.
+#pragma once
+
+#include "atlwin.h"
+
+namespace WTL
+{
+
+// A tree view.
+class CTreeViewCtrl : public ATL::CWindow
+{
+public:
+    explicit CTreeViewCtrl(HWND window = nullptr) : CWindow(window) {}
+
+    BOOL DeleteAllItems() { return DeleteItem(TVI_ROOT); }
+    BOOL DeleteItem(HTREEITEM item)
+    {
+        return static_cast<BOOL>(SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item)));
+    }
+    HTREEITEM InsertItem(const TVINSERTSTRUCTW& item)
+    {
+        return Item(SendMessage(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    }
+    BOOL GetItem(TVITEMW& item) const
+    {
+        return static_cast<BOOL>(SendMessage(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    }
+    BOOL SetItem(const TVITEMW& item)
+    {
+        return static_cast<BOOL>(SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    }
+    BOOL SetItemText(HTREEITEM node, const wchar_t* text)
+    {
+        TVITEMW item = {};
+        item.mask = TVIF_HANDLE | TVIF_TEXT;
+        item.hItem = node;
+        item.pszText = const_cast<wchar_t*>(text);
+        return SetItem(item);
+    }
+    LPARAM GetItemData(HTREEITEM node) const
+    {
+        TVITEMW item = {};
+        item.mask = TVIF_HANDLE | TVIF_PARAM;
+        item.hItem = node;
+        return GetItem(item) ? item.lParam : 0;
+    }
+    UINT GetItemState(HTREEITEM node, UINT mask) const
+    {
+        return static_cast<UINT>(
+            SendMessage(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node), mask));
+    }
+    BOOL SetItemState(HTREEITEM node, UINT state, UINT mask)
+    {
+        TVITEMW item = {};
+        item.mask = TVIF_HANDLE | TVIF_STATE;
+        item.hItem = node;
+        item.state = state;
+        item.stateMask = mask;
+        return SetItem(item);
+    }
+    HTREEITEM GetNextItem(HTREEITEM node, UINT code) const
+    {
+        return Item(SendMessage(TVM_GETNEXTITEM, code, reinterpret_cast<LPARAM>(node)));
+    }
+    HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
+    HTREEITEM GetSelectedItem() const { return GetNextItem(nullptr, TVGN_CARET); }
+    HTREEITEM GetChildItem(HTREEITEM node) const { return GetNextItem(node, TVGN_CHILD); }
+    HTREEITEM GetNextSiblingItem(HTREEITEM node) const { return GetNextItem(node, TVGN_NEXT); }
+    HTREEITEM GetPrevSiblingItem(HTREEITEM node) const { return GetNextItem(node, TVGN_PREVIOUS); }
+    HTREEITEM GetParentItem(HTREEITEM node) const { return GetNextItem(node, TVGN_PARENT); }
+    BOOL SelectItem(HTREEITEM node)
+    {
+        return static_cast<BOOL>(
+            SendMessage(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(node)));
+    }
+    BOOL EnsureVisible(HTREEITEM node)
+    {
+        return static_cast<BOOL>(SendMessage(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(node)));
+    }
+    BOOL Expand(HTREEITEM node, UINT code)
+    {
+        return static_cast<BOOL>(SendMessage(TVM_EXPAND, code, reinterpret_cast<LPARAM>(node)));
+    }
+    HTREEITEM HitTest(TVHITTESTINFO& info) const
+    {
+        return Item(SendMessage(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
+    }
+    // The node's rectangle in the tree's client area; with `textOnly`, that of its label.
+    BOOL GetItemRect(HTREEITEM node, RECT& rect, BOOL textOnly) const
+    {
+        TVITEMPOSITION position = {};
+        position.node = node;
+        const auto result = SendMessage(TVM_GETITEMRECT, static_cast<WPARAM>(textOnly),
+                                        reinterpret_cast<LPARAM>(&position));
+        rect = position.rect;
+        return static_cast<BOOL>(result);
+    }
+    void SetRedraw(BOOL redraw) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
+
+private:
+    // TVM_GETITEMRECT takes the node in the place where it returns the rectangle.
+    union TVITEMPOSITION
+    {
+        HTREEITEM node;
+        RECT rect;
+    };
+
+    static HTREEITEM Item(LRESULT result) { return reinterpret_cast<HTREEITEM>(result); }
+};
+
+// A push button, check box or radio button.
+class CButton : public ATL::CWindow
+{
+public:
+    explicit CButton(HWND window = nullptr) : CWindow(window) {}
+
+    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
+    void SetCheck(int check) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(check)); }
+};
+
+} // namespace WTL
+
+using WTL::CButton;
+using WTL::CTreeViewCtrl;

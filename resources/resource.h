@@ -1,0 +1,36 @@
+/* Every identifier of the module's resources. Those of templates, menus, commands, controls and
+ * strings are fixed: hosts, translations and other programs of the shell rely on them. */
+#pragma once
+
+/* Dialog templates. */
+#define IDD_CUSTOMIZE_MENU 9
+#define IDD_MENU_OPTIONS 209
+
+/* Menus that soft-key bars are made from. */
+#define IDR_MENU_EDITOR 203
+#define IDR_DONE_CANCEL 207
+
+/* Commands of the menu editor. */
+#define ID_EDIT_ITEM 32772
+#define ID_REMOVE_ITEM 32773
+#define ID_MOVE_DOWN 32774
+#define ID_MOVE_UP 32775
+#define ID_ADD_MENU 32782
+#define ID_ADD_LINK 32783
+#define ID_ADD_FILE 32785
+#define ID_MENU_OPTIONS 32792
+
+/* Controls of Customize Menu. */
+#define IDC_MENU_TREE 203
+
+/* Controls of Menu Options. */
+#define IDC_LAYOUT_LIST 210
+#define IDC_LAYOUT_GRID 211
+#define IDC_MOST_USED_FIRST 212
+#define IDC_HARDWARE_NAVIGATION 213
+#define IDC_LAYOUT_HEADING 214
+#define IDC_OPTIONS_HEADING 215
+
+/* Strings. */
+#define IDS_ROOT 101
+#define IDS_MENU_OPTIONS_CAPTION 103
