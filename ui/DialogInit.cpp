@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr const wchar_t* kDialogInitType = MAKEINTRESOURCEW(240);
+constexpr WORD kDialogInitType = 240;
 constexpr size_t kHeaderSize = 8;
 
 // Resource compilers write the two add messages with their numbers of 16-bit systems.
@@ -69,7 +69,8 @@ void ForEachDialogInitEntry(const uint8_t* data, size_t size,
 void RunDialogInit(HWND dialog, UINT id)
 {
     const HINSTANCE instance = ResourceInstance();
-    const HRSRC resource = FindResourceW(instance, MAKEINTRESOURCEW(id), kDialogInitType);
+    const HRSRC resource =
+        FindResourceW(instance, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(kDialogInitType));
     const HGLOBAL memory = resource ? LoadResource(instance, resource) : nullptr;
     const auto* const data = static_cast<const uint8_t*>(memory ? LockResource(memory) : nullptr);
     if (!data)

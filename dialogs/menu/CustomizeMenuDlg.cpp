@@ -8,8 +8,6 @@
 #include "platform/Handles.h"
 #include "ui/ShellDialog.h"
 
-#include <aygshell.h>
-
 namespace
 {
 

@@ -8,6 +8,8 @@
 #include "resources/resource.h"
 #include "ui/PPCDialog.h"
 
+#include <aygshell.h>
+
 class CCustomizeMenuDlg : public CPPCDialogImpl<CCustomizeMenuDlg>
 {
 public:

@@ -1,5 +1,6 @@
 #include "dialogs/menu/MenuOptionsDlg.h"
 
+#include "menu/MenuKeys.h"
 #include "ui/DialogFonts.h"
 #include "ui/FormattedString.h"
 #include "ui/ShellDialog.h"

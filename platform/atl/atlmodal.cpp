@@ -1,6 +1,7 @@
 #include "atlmodal.h"
 
 #include "atlexcept.h"
+#include "atltls.h"
 
 #include <new>
 #include <utility>
@@ -10,29 +11,30 @@ namespace ATL
 namespace
 {
 
-thread_local CModalScope* t_innermost = nullptr;
+CThreadPointer<CModalScope> g_innermost;
 
 } // namespace
 
-CModalScope::CModalScope() : m_outer(t_innermost)
+CModalScope::CModalScope() : m_outer(g_innermost.Get())
 {
-    t_innermost = this;
+    g_innermost.Set(this);
 }
 
 CModalScope::~CModalScope()
 {
-    t_innermost = m_outer;
+    g_innermost.Set(m_outer);
 }
 
 void CModalScope::BindWindow(HWND window)
 {
-    if (t_innermost && !t_innermost->m_window)
-        t_innermost->m_window = window;
+    CModalScope* const scope = g_innermost.Get();
+    if (scope && !scope->m_window)
+        scope->m_window = window;
 }
 
 bool CModalScope::HasFailed(HWND window)
 {
-    for (const CModalScope* scope = t_innermost; scope; scope = scope->m_outer)
+    for (const CModalScope* scope = g_innermost.Get(); scope; scope = scope->m_outer)
         if (scope->m_window == window)
             return scope->m_failure != nullptr;
     return false;
@@ -40,7 +42,7 @@ bool CModalScope::HasFailed(HWND window)
 
 void CModalScope::KeepCurrentException()
 {
-    CModalScope* const scope = t_innermost;
+    CModalScope* const scope = g_innermost.Get();
     if (!scope)
         throw;
     // The first failure is the cause; what fails while the dialog goes away is not.

@@ -1,48 +1,54 @@
 #include "atlwin.h"
 
-#include <vector>
+#include "atltls.h"
 
 namespace ATL
 {
 namespace
 {
 
-// The objects that wait for their windows on this thread, the newest last.
-thread_local std::vector<void*> t_waiting;
+// The newest of the objects that wait on this thread.
+CThreadPointer<_AtlCreateWndData> g_waiting;
+
+// The template resource; null when there is none.
+const DLGTEMPLATE* FindTemplate(HINSTANCE instance, UINT id)
+{
+    const HRSRC resource = ::FindResourceW(instance, MAKEINTRESOURCEW(id), RT_DIALOG);
+    const HGLOBAL memory = resource ? ::LoadResource(instance, resource) : nullptr;
+    return static_cast<const DLGTEMPLATE*>(memory ? ::LockResource(memory) : nullptr);
+}
 
 } // namespace
 
 CAtlBaseModule _AtlBaseModule;
 
-void AddCreateWndData(void* object)
+void AddCreateWndData(_AtlCreateWndData& data, void* object)
 {
-    t_waiting.push_back(object);
+    data.m_pThis = object;
+    data.m_pNext = g_waiting.Get();
+    g_waiting.Set(&data);
 }
 
 void* ExtractCreateWndData()
 {
-    if (t_waiting.empty())
+    const _AtlCreateWndData* const data = g_waiting.Get();
+    if (!data)
         return nullptr;
-    void* const object = t_waiting.back();
-    t_waiting.pop_back();
-    return object;
+    g_waiting.Set(data->m_pNext);
+    return data->m_pThis;
 }
 
-INT_PTR RunModalDialog(HWND owner, UINT id, DLGPROC procedure, LPARAM parameter)
+INT_PTR RunModalDialog(HWND owner, UINT id, DLGPROC procedure, LPARAM parameter,
+                       const _AtlCreateWndData& data)
 {
-    // The caller has just registered its object, so there is at least one.
-    const size_t waiting = t_waiting.size();
     const HINSTANCE instance = _AtlBaseModule.GetResourceInstance();
-    const HRSRC resource = ::FindResourceW(instance, MAKEINTRESOURCEW(id), RT_DIALOG);
-    const HGLOBAL memory = resource ? ::LoadResource(instance, resource) : nullptr;
-    const auto* const dialog =
-        static_cast<const DLGTEMPLATE*>(memory ? ::LockResource(memory) : nullptr);
+    const DLGTEMPLATE* const dialog = FindTemplate(instance, id);
     CModalScope scope;
     const INT_PTR code =
         dialog ? ::DialogBoxIndirectParamW(instance, dialog, owner, procedure, parameter) : -1;
     // A dialog that was never created has not taken its object.
-    if (t_waiting.size() == waiting)
-        t_waiting.pop_back();
+    if (g_waiting.Get() == &data)
+        ExtractCreateWndData();
     scope.Rethrow();
     return code;
 }

@@ -71,8 +71,16 @@ public:
                                       LRESULT& result, DWORD mapId = 0) = 0;
 };
 
-// Remembers which object waits for its window to be created on the current thread.
-void AddCreateWndData(void* object);
+// An object that waits for its window to be created on the current thread. Lives in the object;
+// the waiting ones are chained.
+struct _AtlCreateWndData
+{
+    void* m_pThis = nullptr;
+    _AtlCreateWndData* m_pNext = nullptr;
+};
+
+// Registers `object` as the one whose window is being created now.
+void AddCreateWndData(_AtlCreateWndData& data, void* object);
 // Takes the object that registered last on the current thread; null when there is none.
 void* ExtractCreateWndData();
 
@@ -87,6 +95,7 @@ public:
     CWindowImplRoot& operator=(const CWindowImplRoot&) = delete;
 
     CWndProcThunk m_thunk;
+    _AtlCreateWndData m_createData;
 };
 
 // Dialogs: routes the messages of the dialog window to the object's message map.
@@ -161,7 +170,9 @@ private:
 // Runs the dialog template `id` of the resource instance modally with the given procedure. Returns
 // the dialog's end code; -1 when the template is missing or the dialog can't be created. An
 // exception that a window procedure handed over leaves this call.
-INT_PTR RunModalDialog(HWND owner, UINT id, DLGPROC procedure, LPARAM parameter);
+// The caller has registered its object with `data`.
+INT_PTR RunModalDialog(HWND owner, UINT id, DLGPROC procedure, LPARAM parameter,
+                       const _AtlCreateWndData& data);
 
 // A modal dialog over the template resource T::IDD.
 template <class T, class TBase = CWindow>
@@ -178,8 +189,9 @@ public:
             ::SetLastError(ERROR_OUTOFMEMORY);
             return -1;
         }
-        AddCreateWndData(static_cast<CDialogImplBaseT<TBase>*>(this));
-        return RunModalDialog(owner, static_cast<UINT>(T::IDD), T::StartDialogProc, parameter);
+        AddCreateWndData(this->m_createData, static_cast<CDialogImplBaseT<TBase>*>(this));
+        return RunModalDialog(owner, static_cast<UINT>(T::IDD), T::StartDialogProc, parameter,
+                              this->m_createData);
     }
 };
 

@@ -6,7 +6,8 @@
 #include "platform/Win.h"
 
 #ifdef AYGSHELL_EXPORTS
-#define AYGSHELLAPI extern "C" __declspec(dllexport)
+// The names come from aygshell.def: dllexport would decorate them on 32-bit systems.
+#define AYGSHELLAPI extern "C"
 #else
 #define AYGSHELLAPI extern "C" __declspec(dllimport)
 #endif
@@ -77,8 +78,18 @@ struct SHRGINFO
     DWORD dwFlags;
 };
 
-// Watches whether the stylus (or the Action key) stays down long enough to be a tap-and-hold.
-// Returns GN_CONTEXTMENU when it does, 0 otherwise.
+// What comes with WM_NOTIFY GN_CONTEXTMENU: where the stylus was held, on the screen.
+struct NMRGINFO
+{
+    NMHDR hdr;
+    POINT ptAction;
+    DWORD dwItemSpec;
+};
+
+// Watches whether the stylus (or the Action key) stays down long enough to be a tap-and-hold, 700
+// milliseconds; ptDown is in hwndClient's client area. Returns GN_CONTEXTMENU when it does, 0
+// otherwise, at once when neither is down. Without SHRG_RETURNCMD a tap-and-hold is also notified,
+// to hwndClient's parent with SHRG_NOTIFYPARENT, else to hwndClient.
 AYGSHELLAPI DWORD WINAPI SHRecognizeGesture(SHRGINFO* info);
 
 // SHSipInfo actions.

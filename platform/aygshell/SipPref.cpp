@@ -1,0 +1,78 @@
+#include "platform/aygshell/SipPref.h"
+
+#include "aygshell.h"
+
+#include "platform/aygshell/Module.h"
+#include "platform/aygshell/Sip.h"
+
+namespace shell {
+
+namespace {
+
+constexpr UINT_PTR kPreferenceSubclass = 5;
+
+// To the control: the focus has moved. Posted, so that the step from one edit control to the next
+// leaves the panel where it is.
+constexpr UINT kFocusMoved = WM_USER + 1;
+
+// Whether text can be typed into the window: an edit control that isn't read-only.
+bool TakesText(HWND window)
+{
+    wchar_t name[16] = {};
+    if (!GetClassNameW(window, name, ARRAYSIZE(name)) || lstrcmpiW(name, WC_EDITW) != 0)
+        return false;
+    return (GetWindowLongPtrW(window, GWL_STYLE) & ES_READONLY) == 0;
+}
+
+void FollowFocus(HWND preference)
+{
+    const HWND focus = GetFocus();
+    const bool inDialog = focus != nullptr && IsChild(GetParent(preference), focus);
+    SetInputPanel(inDialog && TakesText(focus));
+}
+
+LRESULT CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                            DWORD_PTR preference)
+{
+    const UINT code = HIWORD(wParam);
+    if (message == WM_COMMAND && lParam != 0 && (code == EN_SETFOCUS || code == EN_KILLFOCUS))
+        PostMessageW(reinterpret_cast<HWND>(preference), kFocusMoved, 0, 0);
+    if (message == WM_NCDESTROY)
+        RemoveWindowSubclass(dialog, DialogProc, id);
+    return DefSubclassProc(dialog, message, wParam, lParam);
+}
+
+LRESULT CALLBACK PreferenceProc(HWND preference, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_CREATE:
+        SetWindowSubclass(GetParent(preference), DialogProc, kPreferenceSubclass,
+                          reinterpret_cast<DWORD_PTR>(preference));
+        break;
+    case kFocusMoved:
+        FollowFocus(preference);
+        return 0;
+    case WM_DESTROY:
+        RemoveWindowSubclass(GetParent(preference), DialogProc, kPreferenceSubclass);
+        SetInputPanel(false);
+        break;
+    case WM_NCCREATE:
+        // Invisible whatever the template says.
+        SetWindowLongPtrW(preference, GWL_STYLE,
+                          GetWindowLongPtrW(preference, GWL_STYLE) & ~WS_VISIBLE);
+        break;
+    }
+    return DefWindowProcW(preference, message, wParam, lParam);
+}
+
+} // namespace
+
+bool RegisterSipPrefClass()
+{
+    return RegisterShellClass(kSipPrefClass, PreferenceProc, CS_GLOBALCLASS);
+}
+
+} // namespace shell
+
+BOOL WINAPI SHInitExtraControls() { return shell::RegisterSipPrefClass() ? TRUE : FALSE; }
