@@ -1,0 +1,33 @@
+// CLocalizerMap: the translator's map from English texts to translations. Pure: no windows.h.
+#pragma once
+
+#include "frame/GenericMap.h"
+#include "platform/Char16.h"
+
+// A zero-terminated text as a key: two are equal when all their code units are. Null is the empty
+// text.
+struct STRING_WRAPPER
+{
+    const Char16* Text;
+};
+
+bool operator==(const STRING_WRAPPER& left, const STRING_WRAPPER& right);
+
+// Neither keys nor values are owned: they point into the translator's file buffer.
+class CLocalizerMap : public CGenericMap<STRING_WRAPPER, Char16*>
+{
+public:
+    CLocalizerMap();
+    ~CLocalizerMap() override;
+
+    // h = 5h + 37c over the code units; 0 for an empty text. Texts with the same hash are easily
+    // made ("af" and "ba"), which only costs time: the file belongs to the installation.
+    uint32_t Hash(const STRING_WRAPPER& key) const override;
+
+    // Stores the `count` pairs that stand one behind the other from `pairs` on: key, zero, value,
+    // zero. A later pair replaces an earlier one with the same key.
+    void StorePairs(Char16* pairs, size_t count);
+};
+
+// On the handheld a group is 65 words.
+static_assert(sizeof(void*) != 4 || sizeof(CLocalizerMap::Group) == 260, "groups of 260 bytes");
