@@ -4,9 +4,11 @@
 
 #include "platform/aygshell/MenuBar.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // What the system posts after F1; its default handling makes WM_HELP of it.
 constexpr UINT kHelpRequest = 0x004D;
@@ -14,9 +16,15 @@ constexpr UINT kHelpRequest = 0x004D;
 // lParam of key messages: the key was down before.
 constexpr LPARAM kRepeated = 1 << 30;
 
-bool IsDown(int key) { return GetKeyState(key) < 0; }
+bool IsDown(int key)
+{
+    return GetKeyState(key) < 0;
+}
 
-bool HasModifier() { return IsDown(VK_CONTROL) || IsDown(VK_MENU) || IsDown(VK_SHIFT); }
+bool HasModifier()
+{
+    return IsDown(VK_CONTROL) || IsDown(VK_MENU) || IsDown(VK_SHIFT);
+}
 
 bool InMenu()
 {

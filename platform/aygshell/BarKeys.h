@@ -4,7 +4,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Watches the calling thread's key messages for windows that have a bar. One hook per bar: it is
 // unhooked with the bar, and what one has taken, the others see as WM_NULL. Null on failure.

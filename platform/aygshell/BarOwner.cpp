@@ -4,9 +4,11 @@
 
 #include "platform/aygshell/MenuBar.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 constexpr UINT_PTR kOwnerSubclass = 2;
 

@@ -4,7 +4,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Makes `toolbar` (in its bar) the bar of `owner`, in place of an earlier one, which is destroyed.
 // From now on the bar is shown and hidden with its owner, unless `hidden`, and goes away with it.

@@ -6,9 +6,11 @@
 #include "platform/aygshell/Module.h"
 #include "platform/aygshell/SoftKeys.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 DWORD CheckInfo(const SHMENUBARINFO* info)
 {

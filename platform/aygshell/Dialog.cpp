@@ -8,9 +8,11 @@
 #include "platform/aygshell/Sip.h"
 #include "platform/aygshell/StylusControls.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 constexpr UINT_PTR kDialogSubclass = 1;
 

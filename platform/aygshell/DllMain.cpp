@@ -6,9 +6,11 @@
 #include "platform/aygshell/SipPanel.h"
 #include "platform/aygshell/SipPref.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // Set once at attach, before anything else of the DLL can run.
 HINSTANCE g_instance;
@@ -33,7 +35,10 @@ void UnregisterClasses()
 
 } // namespace
 
-HINSTANCE Instance() { return g_instance; }
+HINSTANCE Instance()
+{
+    return g_instance;
+}
 
 bool RegisterShellClass(const wchar_t* name, WNDPROC procedure, UINT style, int extraBytes)
 {

@@ -9,9 +9,11 @@
 #include "platform/aygshell/Metrics.h"
 #include "platform/aygshell/Module.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // How long down is a hold, and how often to look, in milliseconds.
 constexpr DWORD kHoldTime = 700;
@@ -28,7 +30,10 @@ bool IsWaiting(UINT first, UINT last)
     return PeekMessageW(&message, nullptr, first, last, PM_NOREMOVE) != FALSE;
 }
 
-bool IsPhysicallyDown(int key) { return GetAsyncKeyState(key) < 0; }
+bool IsPhysicallyDown(int key)
+{
+    return GetAsyncKeyState(key) < 0;
+}
 
 // Runs until `isOver` says so or the hold time has passed; returns whether it passed.
 template <class Condition>
@@ -67,10 +72,12 @@ private:
 bool IsButtonHeld()
 {
     const CStylusPlace place;
-    return StaysDown([&place] {
-        return IsWaiting(WM_LBUTTONUP, WM_LBUTTONUP) || !IsPhysicallyDown(VK_LBUTTON) ||
-               place.IsLeft();
-    });
+    return StaysDown(
+        [&place]
+        {
+            return IsWaiting(WM_LBUTTONUP, WM_LBUTTONUP) || !IsPhysicallyDown(VK_LBUTTON) ||
+                   place.IsLeft();
+        });
 }
 
 bool IsActionKeyHeld()
@@ -103,9 +110,9 @@ void Notify(const SHRGINFO& info)
 bool IsStylusHeld(HWND window)
 {
     const CStylusPlace place;
-    const bool held = StaysDown([&place, window] {
-        return IsWaiting(WM_LBUTTONUP, WM_LBUTTONUP) || place.IsLeft() || !IsWindow(window);
-    });
+    const bool held = StaysDown(
+        [&place, window]
+        { return IsWaiting(WM_LBUTTONUP, WM_LBUTTONUP) || place.IsLeft() || !IsWindow(window); });
     return held && IsWindow(window);
 }
 

@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Waits while the stylus, just put down on `window`, stays where it is. Returns true when it was
 // still there after the hold time; false at once when it is lifted or moves, or the window goes.

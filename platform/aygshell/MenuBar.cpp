@@ -9,9 +9,11 @@
 #include "platform/aygshell/SipButton.h"
 #include "platform/aygshell/SoftKeys.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // The input-panel button, in logical pixels.
 constexpr int kSipButtonWidth = 34;
@@ -29,7 +31,10 @@ void SwallowClosingPress(HWND toolbar, int index)
 
 } // namespace
 
-bool RegisterMenuBarClass() { return RegisterShellClass(kMenuBarClass, CMenuBar::WindowProc); }
+bool RegisterMenuBarClass()
+{
+    return RegisterShellClass(kMenuBarClass, CMenuBar::WindowProc);
+}
 
 HWND CMenuBar::Create(const SHMENUBARINFO& info, UniqueMenu menu)
 {
@@ -154,8 +159,7 @@ LRESULT CMenuBar::OnNotify(const NMHDR& header, LPARAM lParam)
     if (header.code != TBN_DROPDOWN)
         return 0;
     const int id = reinterpret_cast<const NMTOOLBARW*>(lParam)->iItem;
-    const LRESULT index =
-        SendMessageW(m_toolbar, TB_COMMANDTOINDEX, static_cast<WPARAM>(id), 0);
+    const LRESULT index = SendMessageW(m_toolbar, TB_COMMANDTOINDEX, static_cast<WPARAM>(id), 0);
     PostMessageW(m_window, kPressSoftKey, static_cast<WPARAM>(index), 0);
     return TBDDRET_DEFAULT;
 }

@@ -6,7 +6,8 @@
 
 #include "platform/Handles.h"
 
-namespace shell {
+namespace shell
+{
 
 inline constexpr wchar_t kMenuBarClass[] = L"SoftKeyBar";
 

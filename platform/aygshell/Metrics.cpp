@@ -4,9 +4,11 @@
 
 #include "platform/Handles.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // Heights in logical pixels, as on the handheld.
 constexpr int kBarHeight = 26;
@@ -22,7 +24,10 @@ int ScreenDpi()
 
 } // namespace
 
-int Scaled(int logical) { return (logical * ScreenDpi() + 48) / 96; }
+int Scaled(int logical)
+{
+    return (logical * ScreenDpi() + 48) / 96;
+}
 
 RECT WorkArea()
 {

@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Logical pixels (of a 96 dpi screen) in device pixels.
 int Scaled(int logical);
@@ -24,7 +25,13 @@ RECT PanelRect();
 HFONT CreateShellFont(int weight);
 
 // The extent of a rectangle.
-inline int Width(const RECT& rect) { return rect.right - rect.left; }
-inline int Height(const RECT& rect) { return rect.bottom - rect.top; }
+inline int Width(const RECT& rect)
+{
+    return rect.right - rect.left;
+}
+inline int Height(const RECT& rect)
+{
+    return rect.bottom - rect.top;
+}
 
 } // namespace shell

@@ -1,16 +1,17 @@
-// What the parts of the DLL share: its instance, its window classes, the marks it leaves on windows.
+// What the parts of the DLL share: its instance, its window classes, the marks it leaves on
+// windows.
 #pragma once
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // The DLL's own instance; its window classes belong to it.
 HINSTANCE Instance();
 
 // Registers a window class of the DLL; a class that is there already is as good.
-bool RegisterShellClass(const wchar_t* name, WNDPROC procedure, UINT style = 0,
-                        int extraBytes = 0);
+bool RegisterShellClass(const wchar_t* name, WNDPROC procedure, UINT style = 0, int extraBytes = 0);
 
 // The handheld's WM_SETTINGCHANGE for a screen that was rotated or resized.
 constexpr WPARAM kScreenReset = 0x3002;

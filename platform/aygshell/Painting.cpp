@@ -2,7 +2,8 @@
 
 #include "platform/aygshell/Metrics.h"
 
-namespace shell {
+namespace shell
+{
 
 void FillPlain(HDC dc, const RECT& area, COLORREF colour)
 {

@@ -3,7 +3,8 @@
 
 #include "platform/Handles.h"
 
-namespace shell {
+namespace shell
+{
 
 // Fills with a plain colour.
 void FillPlain(HDC dc, const RECT& area, COLORREF colour);

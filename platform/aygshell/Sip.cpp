@@ -9,9 +9,11 @@
 #include "platform/aygshell/Module.h"
 #include "platform/aygshell/SipPanel.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // The handheld has one panel for all programs; here it is one for all threads of the process.
 std::atomic<bool> g_isUp{false};
@@ -64,7 +66,10 @@ BOOL GetInfo(SIPINFO& info)
 
 } // namespace
 
-bool IsInputPanelUp() { return g_isUp; }
+bool IsInputPanelUp()
+{
+    return g_isUp;
+}
 
 void SetInputPanel(bool up)
 {

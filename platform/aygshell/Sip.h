@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Whether the panel is up.
 bool IsInputPanelUp();

@@ -5,9 +5,11 @@
 #include "platform/aygshell/Painting.h"
 #include "platform/aygshell/Sip.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // Where the window keeps its colour.
 constexpr int kBackground = 0;
@@ -16,9 +18,9 @@ constexpr int kBackground = 0;
 constexpr int kPictureWidth = 18;
 constexpr int kPictureHeight = 11;
 constexpr RECT kPictureParts[] = {
-    {0, 0, 18, 1},  {0, 10, 18, 11}, {0, 0, 1, 11},   {17, 0, 18, 11}, {3, 3, 5, 4},
-    {6, 3, 8, 4},   {9, 3, 11, 4},   {12, 3, 15, 4},  {3, 5, 5, 6},    {6, 5, 8, 6},
-    {9, 5, 11, 6},  {12, 5, 15, 6},  {5, 7, 13, 8},
+    {0, 0, 18, 1}, {0, 10, 18, 11}, {0, 0, 1, 11},  {17, 0, 18, 11}, {3, 3, 5, 4},
+    {6, 3, 8, 4},  {9, 3, 11, 4},   {12, 3, 15, 4}, {3, 5, 5, 6},    {6, 5, 8, 6},
+    {9, 5, 11, 6}, {12, 5, 15, 6},  {5, 7, 13, 8},
 };
 
 void PaintPicture(HDC dc, const RECT& area, COLORREF colour)
@@ -57,9 +59,8 @@ LRESULT CALLBACK ButtonProc(HWND button, UINT message, WPARAM wParam, LPARAM lPa
     case WM_PAINT:
     {
         const auto background = static_cast<COLORREF>(GetWindowLongW(button, kBackground));
-        PaintBuffered(button, [background](HDC dc, const RECT& area) {
-            Paint(dc, area, background);
-        });
+        PaintBuffered(button,
+                      [background](HDC dc, const RECT& area) { Paint(dc, area, background); });
         return 0;
     }
     }

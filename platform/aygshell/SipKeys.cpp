@@ -2,9 +2,11 @@
 
 #include <array>
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 constexpr SipKey Typing(int row, int left, wchar_t plain, wchar_t shifted)
 {
@@ -65,9 +67,15 @@ constexpr auto kKeys = MakeKeys();
 
 } // namespace
 
-int SipKeyCount() { return static_cast<int>(kKeys.size()); }
+int SipKeyCount()
+{
+    return static_cast<int>(kKeys.size());
+}
 
-const SipKey& SipKeyAt(int index) { return kKeys.at(static_cast<std::size_t>(index)); }
+const SipKey& SipKeyAt(int index)
+{
+    return kKeys.at(static_cast<std::size_t>(index));
+}
 
 SipKeyBox SipKeyPlace(const SipKey& key, int width, int height)
 {

@@ -1,7 +1,8 @@
 // The keys of the on-screen keyboard: what they type and where they lie. Plain values, no window.
 #pragma once
 
-namespace shell {
+namespace shell
+{
 
 // What a key does besides typing its character.
 enum class SipAction

@@ -4,9 +4,11 @@
 #include "platform/aygshell/Painting.h"
 #include "platform/aygshell/SipKeys.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 struct Face
 {

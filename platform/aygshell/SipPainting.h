@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // What changes on the keyboard's face: the index of the pressed key (-1: none), and Shift.
 struct SipLook

@@ -7,9 +7,11 @@
 #include "platform/aygshell/SipKeys.h"
 #include "platform/aygshell/SipPainting.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // The one keyboard of the process; its window belongs to the thread that raised it.
 std::atomic<HWND> g_panel{nullptr};

@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 inline constexpr wchar_t kSipPanelClass[] = L"SoftInputPanel";
 

@@ -5,9 +5,11 @@
 #include "platform/aygshell/Module.h"
 #include "platform/aygshell/Sip.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 constexpr UINT_PTR kPreferenceSubclass = 5;
 
@@ -75,4 +77,7 @@ bool RegisterSipPrefClass()
 
 } // namespace shell
 
-BOOL WINAPI SHInitExtraControls() { return shell::RegisterSipPrefClass() ? TRUE : FALSE; }
+BOOL WINAPI SHInitExtraControls()
+{
+    return shell::RegisterSipPrefClass() ? TRUE : FALSE;
+}

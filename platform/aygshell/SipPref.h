@@ -4,7 +4,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 inline constexpr wchar_t kSipPrefClass[] = L"SIPPREF";
 

@@ -7,9 +7,11 @@
 #include "platform/aygshell/Painting.h"
 #include "platform/aygshell/SoftKeys.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 // Space that the divider leaves above and below, and the text at its sides, in logical pixels.
 constexpr int kDividerInset = 6;
@@ -71,8 +73,8 @@ void PaintDivider(HWND toolbar, HDC dc, int index)
 void PaintAll(HWND toolbar, HDC dc, const RECT& area, COLORREF background)
 {
     PaintBarSurface(dc, area, background);
-    const CSelectObject font(
-        dc, reinterpret_cast<HGDIOBJ>(SendMessageW(toolbar, WM_GETFONT, 0, 0)));
+    const CSelectObject font(dc,
+                             reinterpret_cast<HGDIOBJ>(SendMessageW(toolbar, WM_GETFONT, 0, 0)));
     SetBkMode(dc, TRANSPARENT);
     const int count = static_cast<int>(SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0));
     for (int index = 0; index < count; ++index)
@@ -85,9 +87,8 @@ void PaintAll(HWND toolbar, HDC dc, const RECT& area, COLORREF background)
 
 void PaintSoftKeys(HWND toolbar, COLORREF background)
 {
-    PaintBuffered(toolbar, [toolbar, background](HDC dc, const RECT& area) {
-        PaintAll(toolbar, dc, area, background);
-    });
+    PaintBuffered(toolbar, [toolbar, background](HDC dc, const RECT& area)
+                  { PaintAll(toolbar, dc, area, background); });
 }
 
 } // namespace shell

@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Answers WM_PAINT of the soft keys' toolbar. `background` is CLR_DEFAULT for the system's colour.
 void PaintSoftKeys(HWND toolbar, COLORREF background);

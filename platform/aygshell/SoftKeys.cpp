@@ -6,9 +6,11 @@
 #include "platform/aygshell/Module.h"
 #include "platform/aygshell/SoftKeyPainting.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 constexpr UINT_PTR kSoftKeysSubclass = 3;
 
@@ -31,8 +33,8 @@ LRESULT OnTextSet(HWND toolbar, UINT message, WPARAM wParam, LPARAM lParam)
     return result;
 }
 
-LRESULT CALLBACK SoftKeysProc(HWND toolbar, UINT message, WPARAM wParam, LPARAM lParam,
-                              UINT_PTR id, DWORD_PTR background)
+LRESULT CALLBACK SoftKeysProc(HWND toolbar, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                              DWORD_PTR background)
 {
     switch (message)
     {
@@ -94,11 +96,11 @@ HWND CreateSoftKeys(HWND bar, COLORREF background, HFONT font)
 {
     INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    const HWND toolbar = CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
-                                         WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_LIST |
-                                             TBSTYLE_FLAT | CCS_NOPARENTALIGN | CCS_NODIVIDER |
-                                             CCS_NORESIZE,
-                                         0, 0, 0, 0, bar, nullptr, Instance(), nullptr);
+    const HWND toolbar =
+        CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
+                        WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_LIST | TBSTYLE_FLAT |
+                            CCS_NOPARENTALIGN | CCS_NODIVIDER | CCS_NORESIZE,
+                        0, 0, 0, 0, bar, nullptr, Instance(), nullptr);
     if (toolbar == nullptr)
         return nullptr;
     SendMessageW(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
@@ -108,7 +110,10 @@ HWND CreateSoftKeys(HWND bar, COLORREF background, HFONT font)
                                                                                    : nullptr;
 }
 
-HWND FindSoftKeys(HWND bar) { return FindWindowExW(bar, nullptr, TOOLBARCLASSNAMEW, nullptr); }
+HWND FindSoftKeys(HWND bar)
+{
+    return FindWindowExW(bar, nullptr, TOOLBARCLASSNAMEW, nullptr);
+}
 
 bool AddSoftKeys(HWND toolbar, HMENU menu)
 {
@@ -131,8 +136,8 @@ void LayoutSoftKeys(HWND toolbar)
         TBBUTTONINFOW size{};
         size.cbSize = sizeof size;
         size.dwMask = TBIF_BYINDEX | TBIF_SIZE;
-        size.cx = static_cast<WORD>(area.right * (index + 1) / columns -
-                                    area.right * index / columns);
+        size.cx =
+            static_cast<WORD>(area.right * (index + 1) / columns - area.right * index / columns);
         SendMessageW(toolbar, TB_SETBUTTONINFOW, static_cast<WPARAM>(index),
                      reinterpret_cast<LPARAM>(&size));
     }

@@ -3,7 +3,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Creates the toolbar without buttons. `background` is CLR_DEFAULT for the system's colour; the
 // font stays the caller's. Null on failure.

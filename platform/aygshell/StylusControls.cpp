@@ -5,9 +5,11 @@
 #include "platform/aygshell/Gesture.h"
 #include "platform/aygshell/Module.h"
 
-namespace shell {
+namespace shell
+{
 
-namespace {
+namespace
+{
 
 constexpr UINT_PTR kStylusSubclass = 4;
 

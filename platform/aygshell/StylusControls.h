@@ -4,7 +4,8 @@
 
 #include "platform/Win.h"
 
-namespace shell {
+namespace shell
+{
 
 // Gives a tree or list view these manners until it is destroyed; other windows stay as they are.
 // Harmless when repeated.

@@ -130,6 +130,6 @@ struct NMSTYLUSDOWN
     POINT point;
 };
 
-static_assert(sizeof(void*) != 4 || (sizeof(SHMENUBARINFO) == 36 && sizeof(SHRGINFO) == 20 &&
-                                     sizeof(SIPINFO) == 48),
+static_assert(sizeof(void*) != 4 ||
+                  (sizeof(SHMENUBARINFO) == 36 && sizeof(SHRGINFO) == 20 && sizeof(SIPINFO) == 48),
               "the handheld's documented sizes");
