@@ -5,7 +5,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace
+{
 
 constexpr DWORD kEndTimeout = 20000;
 
@@ -69,8 +70,7 @@ INPUT MouseInput(POINT screen, DWORD flags)
 
 CDialogRun::CDialogRun(std::function<BOOL(HWND owner)> call)
     : m_ready(CreateEventW(nullptr, TRUE, FALSE, nullptr)),
-      m_ended(CreateEventW(nullptr, TRUE, FALSE, nullptr)),
-      m_thread([this, call] { Run(call); })
+      m_ended(CreateEventW(nullptr, TRUE, FALSE, nullptr)), m_thread([this, call] { Run(call); })
 {
     EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(m_ready, kEndTimeout));
 }
@@ -95,8 +95,8 @@ void CDialogRun::Run(const std::function<BOOL(HWND)>& call)
 {
     m_threadId = GetCurrentThreadId();
     m_owner = CreateWindowExW(0, L"Static", L"owner", WS_POPUP | WS_VISIBLE, 0, 0,
-                              GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
-                              nullptr, nullptr, nullptr, nullptr);
+                              GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr,
+                              nullptr, nullptr, nullptr);
     SetForegroundWindow(m_owner);
     SetEvent(m_ready);
     try

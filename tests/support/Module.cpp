@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace
+{
 
 template <class Function>
 void Find(HMODULE module, const char* name, Function& function)

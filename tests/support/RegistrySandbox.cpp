@@ -4,7 +4,8 @@
 
 #include <atomic>
 
-namespace {
+namespace
+{
 
 constexpr const wchar_t* kSandboxes = L"Software\\TavLumenarTests";
 
@@ -94,9 +95,9 @@ CRegistrySandbox::CRegistrySandbox(HKEY root)
     : m_root(root), m_path(std::wstring(kSandboxes) + L"\\" + UniqueName())
 {
     RegDeleteTreeW(HKEY_CURRENT_USER, m_path.c_str());
-    EXPECT_EQ(ERROR_SUCCESS, RegCreateKeyExW(HKEY_CURRENT_USER, m_path.c_str(), 0, nullptr, 0,
-                                             KEY_ALL_ACCESS | KEY_WOW64_64KEY, nullptr, &m_key,
-                                             nullptr));
+    EXPECT_EQ(ERROR_SUCCESS,
+              RegCreateKeyExW(HKEY_CURRENT_USER, m_path.c_str(), 0, nullptr, 0,
+                              KEY_ALL_ACCESS | KEY_WOW64_64KEY, nullptr, &m_key, nullptr));
     EXPECT_EQ(ERROR_SUCCESS, RegOverridePredefKey(m_root, m_key));
 }
 

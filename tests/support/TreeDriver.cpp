@@ -50,8 +50,8 @@ LPARAM CTreeDriver::DataOf(HTREEITEM node) const
 
 UINT CTreeDriver::BoxOf(HTREEITEM node) const
 {
-    const auto state = SendMessageW(m_tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node),
-                                    TVIS_STATEIMAGEMASK);
+    const auto state =
+        SendMessageW(m_tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node), TVIS_STATEIMAGEMASK);
     return (static_cast<UINT>(state) & TVIS_STATEIMAGEMASK) >> 12;
 }
 
@@ -67,8 +67,7 @@ void CTreeDriver::SetBox(HTREEITEM node, UINT box) const
 
 bool CTreeDriver::IsExpanded(HTREEITEM node) const
 {
-    return (SendMessageW(m_tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node),
-                         TVIS_EXPANDED) &
+    return (SendMessageW(m_tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node), TVIS_EXPANDED) &
             TVIS_EXPANDED) != 0;
 }
 
