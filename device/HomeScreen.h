@@ -1,0 +1,73 @@
+// The home screen: date, the launcher's first items, and the dialogs to open; behind the left soft
+// key the launcher menu itself, so that every customisation is seen at once.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "device/HostWindow.h"
+#include "device/LauncherMenu.h"
+#include "device/SoftKeys.h"
+#include "platform/Handles.h"
+
+class CHomeScreen : public CHostWindow
+{
+public:
+    // Fills the screen between the top bar and the soft keys.
+    CHomeScreen();
+
+    // Shows the window and brings it to the foreground.
+    void Show();
+
+    // Reads the launcher menu anew and repaints. A failure is shown and leaves the old picture.
+    void Reload();
+
+    // Goes to the launcher menu, as the left soft key does.
+    void ShowLauncher();
+
+protected:
+    LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+private:
+    enum class Page
+    {
+        Home,
+        Menu
+    };
+
+    // What a tap or the selection can be on, on the page that is shown.
+    int TargetCount() const;
+    std::vector<RECT> TargetAreas() const;
+    RECT Client() const;
+
+    void OnTap(POINT point, bool released);
+    void OnKey(WPARAM key);
+    void OnLeftKey();
+    void OnRightKey();
+    void MoveSelection(int step);
+    void Activate();
+    void OpenDialog(int entry);
+    void OpenItem(int item);
+    void ShowPage(Page page);
+    void LoadItems();
+
+    void Paint();
+    void PaintHome(HDC dc);
+    void PaintMenu(HDC dc);
+    void PaintEntry(HDC dc, int entry, const RECT& area);
+    void PaintGridItem(HDC dc, const CMenuItem& item, const RECT& area, bool selected);
+    void PaintListItem(HDC dc, const CMenuItem& item, const RECT& area, bool selected);
+    void PaintIcon(HDC dc, const CMenuItem& item, const RECT& area, int size);
+
+    CLauncherMenu m_menu;
+    // The items of the open menu, and of the first level for the home page's strip.
+    std::vector<CMenuItemPtr> m_items;
+    CSoftKeys m_keys;
+    UniqueFont m_bold;
+    UniqueFont m_normal;
+    UniqueFont m_small;
+    Page m_page = Page::Home;
+    int m_selected = 0;
+    int m_first = 0;
+    bool m_pressed = false;
+};

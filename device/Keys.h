@@ -1,0 +1,12 @@
+// Registry paths of the device that the menu doesn't know, below HKEY_LOCAL_MACHINE.
+#pragma once
+
+namespace keys
+{
+
+constexpr const wchar_t* kProduct = L"\\SOFTWARE\\Orvane 2\\Tav Lumenar";
+constexpr const wchar_t* kSharedComponent = L"\\SOFTWARE\\Orvane\\Shared\\Tav Menu";
+// Where the stand-in shell keeps its own few values.
+constexpr const wchar_t* kDevice = L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Device";
+
+} // namespace keys

@@ -1,0 +1,238 @@
+#include "device/PictureDriver.h"
+
+#include <aygshell.h>
+#include <objbase.h>
+
+#include <cstring>
+
+#include "device/ScreenPicture.h"
+#include "device/Stylus.h"
+
+namespace
+{
+
+constexpr DWORD kPatience = 10000;
+constexpr const wchar_t* kDialogClass = L"#32770";
+constexpr const wchar_t* kPopupClass = L"#32768";
+
+template <class Condition>
+bool WaitUntil(Condition condition)
+{
+    const ULONGLONG end = GetTickCount64() + kPatience;
+    while (!condition())
+    {
+        if (GetTickCount64() > end)
+            return false;
+        Sleep(10);
+    }
+    return true;
+}
+
+bool HasClass(HWND window, const wchar_t* name)
+{
+    wchar_t found[32];
+    return GetClassNameW(window, found, 32) > 0 && lstrcmpW(found, name) == 0;
+}
+
+struct DialogSearch
+{
+    HWND Other;
+    HWND Found;
+};
+
+BOOL CALLBACK FindReadyDialog(HWND window, LPARAM parameter)
+{
+    auto& search = *reinterpret_cast<DialogSearch*>(parameter);
+    if (window == search.Other || !IsWindowVisible(window) || !IsWindowEnabled(window) ||
+        !HasClass(window, kDialogClass))
+        return TRUE;
+    search.Found = window;
+    return FALSE;
+}
+
+// Waits until a thread has handled all its input: an answer comes only from its message loop.
+void WaitForThreadOf(HWND window)
+{
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer);
+}
+
+HTREEITEM Step(HWND tree, WPARAM code, HTREEITEM from)
+{
+    return reinterpret_cast<HTREEITEM>(
+        SendMessageW(tree, TVM_GETNEXTITEM, code, reinterpret_cast<LPARAM>(from)));
+}
+
+// The label's middle on the screen.
+POINT MiddleOf(HWND tree, HTREEITEM node)
+{
+    // The message takes the node from where it puts the rectangle.
+    RECT label = {};
+    memcpy(&label, &node, sizeof(node));
+    SendMessageW(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&label));
+    POINT middle = {(label.left + label.right) / 2, (label.top + label.bottom) / 2};
+    ClientToScreen(tree, &middle);
+    return middle;
+}
+
+HWND TreeOf(HWND dialog)
+{
+    return FindWindowExW(dialog, nullptr, WC_TREEVIEWW, nullptr);
+}
+
+// The n-th node below the root node.
+HTREEITEM ChildOfRoot(HWND tree, int position)
+{
+    HTREEITEM node = Step(tree, TVGN_CHILD, Step(tree, TVGN_ROOT, nullptr));
+    for (int i = 0; i < position && node; ++i)
+        node = Step(tree, TVGN_NEXT, node);
+    return node;
+}
+
+// Where the sample menu has the folder that the pictures show: behind the user's own menu.
+constexpr int kOfficePosition = 5;
+
+// Opens the sample menu's office folder with the stylus and the keys.
+bool OpenFolder(HWND tree)
+{
+    const HTREEITEM folder = ChildOfRoot(tree, kOfficePosition);
+    if (!folder)
+        return false;
+    stylus::Tap(MiddleOf(tree, folder));
+    if (!WaitUntil([&] { return Step(tree, TVGN_CARET, nullptr) == folder; }))
+        return false;
+    stylus::Key(VK_RIGHT);
+    return WaitUntil(
+        [&]
+        {
+            return (SendMessageW(tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(folder),
+                                 TVIS_EXPANDED) &
+                    TVIS_EXPANDED) != 0;
+        });
+}
+
+} // namespace
+
+bool IsDialogView(const std::wstring& view)
+{
+    for (const wchar_t* known :
+         {L"customize-menu", L"customize-menu-popup", L"customize-menu-context", L"menu-options"})
+        if (view == known)
+            return true;
+    return false;
+}
+
+CPictureDriver::CPictureDriver(DWORD threadId, const std::wstring& view, const std::wstring& file)
+    : m_uiThread(threadId), m_view(view), m_file(file)
+{
+    m_thread = std::thread([this] { Run(); });
+}
+
+CPictureDriver::~CPictureDriver()
+{
+    Finish();
+}
+
+bool CPictureDriver::Finish()
+{
+    if (m_thread.joinable())
+        m_thread.join();
+    return m_done;
+}
+
+void CPictureDriver::Run()
+{
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    m_dialog = WaitForDialog(nullptr);
+    if (m_dialog && BringUpView())
+        m_done = WritePng(CopySettledScreen(), m_file);
+    CloseAll();
+    CoUninitialize();
+}
+
+bool CPictureDriver::BringUpView()
+{
+    const HWND tree = TreeOf(m_dialog);
+    if (!tree || !OpenFolder(tree))
+        return false;
+    if (m_view == L"customize-menu-popup")
+        return OpenSoftKeyMenu();
+    if (m_view == L"customize-menu-context")
+        return OpenContextMenu(tree);
+    if (m_view == L"menu-options")
+        return OpenMenuOptions();
+    return true;
+}
+
+// Holds the stylus on the selected label until the menu is there.
+bool CPictureDriver::OpenContextMenu(HWND tree)
+{
+    const POINT middle = MiddleOf(tree, ChildOfRoot(tree, kOfficePosition));
+    stylus::Down(middle);
+    const bool open = WaitForPopup();
+    stylus::Up(middle);
+    return open;
+}
+
+bool CPictureDriver::OpenSoftKeyMenu()
+{
+    const HWND bar = SHFindMenuBar(m_dialog);
+    RECT area = {};
+    if (!bar || !GetWindowRect(bar, &area))
+        return false;
+    stylus::Tap({area.left + (area.right - area.left) * 3 / 4, (area.top + area.bottom) / 2});
+    return WaitForPopup();
+}
+
+bool CPictureDriver::OpenMenuOptions()
+{
+    if (!OpenSoftKeyMenu())
+        return false;
+    // The last entry of the menu.
+    stylus::Key(VK_UP);
+    stylus::Key(VK_RETURN);
+    return WaitForDialog(m_dialog) != nullptr;
+}
+
+HWND CPictureDriver::WaitForDialog(HWND other) const
+{
+    DialogSearch search = {other, nullptr};
+    WaitUntil(
+        [&]
+        {
+            EnumThreadWindows(m_uiThread, FindReadyDialog, reinterpret_cast<LPARAM>(&search));
+            return search.Found != nullptr;
+        });
+    if (search.Found)
+        WaitForThreadOf(search.Found);
+    return search.Found;
+}
+
+bool CPictureDriver::WaitForPopup() const
+{
+    return WaitUntil(
+        [&]
+        {
+            const HWND popup = FindWindowW(kPopupClass, nullptr);
+            return popup && IsWindowVisible(popup);
+        });
+}
+
+// Ends menus first, then dialogs from the inside out.
+void CPictureDriver::CloseAll()
+{
+    WaitUntil(
+        [&]
+        {
+            if (FindWindowW(kPopupClass, nullptr))
+            {
+                stylus::Key(VK_ESCAPE);
+                return false;
+            }
+            DialogSearch search = {nullptr, nullptr};
+            EnumThreadWindows(m_uiThread, FindReadyDialog, reinterpret_cast<LPARAM>(&search));
+            if (search.Found)
+                PostMessageW(search.Found, WM_COMMAND, IDCANCEL, 0);
+            return search.Found == nullptr;
+        });
+}

@@ -1,0 +1,43 @@
+// Takes a picture of a dialog: works the dialog from a thread of its own, with real input, until
+// the wanted view is on the screen, saves it and closes everything again.
+#pragma once
+
+#include "platform/Win.h"
+
+#include <string>
+#include <thread>
+
+// The views, by the names that ./run uses: "customize-menu", "customize-menu-popup",
+// "customize-menu-context" and "menu-options".
+bool IsDialogView(const std::wstring& view);
+
+class CPictureDriver
+{
+public:
+    // Waits, on its own thread, for a dialog of the user-interface thread `threadId`.
+    CPictureDriver(DWORD threadId, const std::wstring& view, const std::wstring& file);
+    // Waits for the thread.
+    ~CPictureDriver();
+    CPictureDriver(const CPictureDriver&) = delete;
+    CPictureDriver& operator=(const CPictureDriver&) = delete;
+
+    // Waits until the picture is done; false when a step failed.
+    bool Finish();
+
+private:
+    void Run();
+    bool BringUpView();
+    bool OpenContextMenu(HWND tree);
+    bool OpenSoftKeyMenu();
+    bool OpenMenuOptions();
+    HWND WaitForDialog(HWND other) const;
+    bool WaitForPopup() const;
+    void CloseAll();
+
+    DWORD m_uiThread;
+    std::wstring m_view;
+    std::wstring m_file;
+    HWND m_dialog = nullptr;
+    bool m_done = false;
+    std::thread m_thread;
+};

@@ -1,0 +1,34 @@
+#include "device/SampleFiles.h"
+
+namespace sample
+{
+namespace
+{
+
+constexpr StartMenuFile kFiles[] = {
+    {L"Messaging.lnk", L"\\Windows\\Messaging.exe", 104},
+    {L"Calendar.lnk", L"\\Windows\\Calendar.exe", 103},
+    {L"Programs\\Calculator.lnk", L"\\Windows\\Calculator.exe", 120},
+    {L"Programs\\File Manager.lnk", L"\\Windows\\FileManager.exe", 119},
+    {L"Programs\\Notes.lnk", L"\\Windows\\Notes.exe", 109},
+    {L"Programs\\Route Planner.lnk", L"\\Program Files\\Route Planner\\Planner.exe", 138},
+    {L"Programs\\Tasks.lnk", L"\\Windows\\Tasks.exe", 139},
+    {L"Programs\\Web Browser.lnk", L"\\Windows\\Browser.exe", 124},
+    {L"Programs\\Games\\Chess.lnk", L"\\Program Files\\Games\\Chess.exe", 117},
+    {L"Programs\\Games\\Rummy.lnk", L"\\Program Files\\Games\\Rummy.exe", 117},
+    {L"Programs\\Games\\Solitaire.lnk", L"\\Windows\\Solitaire.exe", 117},
+    {L"Programs\\Multimedia\\Camera.lnk", L"\\Windows\\Camera.exe", 114},
+    {L"Programs\\Multimedia\\Music Player.lnk", L"\\Windows\\Music.exe", 111},
+    {L"Programs\\Multimedia\\Voice Recorder.lnk", L"\\Windows\\Recorder.exe", 128},
+    {L"Programs\\Office\\Spreadsheet.lnk", L"\\Program Files\\Office\\Sheet.exe", 107},
+    {L"Programs\\Office\\Text Editor.lnk", L"\\Program Files\\Office\\Text.exe", 106},
+};
+
+} // namespace
+
+Table<StartMenuFile> StartMenuFiles()
+{
+    return {kFiles, sizeof(kFiles) / sizeof(kFiles[0])};
+}
+
+} // namespace sample

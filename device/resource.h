@@ -1,0 +1,7 @@
+/* Resources of the shell program. Icons carry the launcher's numbers, from 100 up. */
+#pragma once
+
+#define IDR_SHELL_KEYS 300
+
+#define ID_LEFT_KEY 40001
+#define ID_RIGHT_KEY 40002
