@@ -57,7 +57,8 @@ BOOL CMenuOptionsDlg::OnInitDialogEx()
         GetDlgItem(heading).SetFont(CDialogFonts::Instance().Get(true));
     FieldsToControls();
     EnableControls();
-    return TRUE;
+    FocusFirstEnabled();
+    return FALSE;
 }
 
 void CMenuOptionsDlg::OnOK()
@@ -94,4 +95,12 @@ void CMenuOptionsDlg::EnableControls()
     for (const int control : {IDC_LAYOUT_LIST, IDC_LAYOUT_GRID, IDC_MOST_USED_FIRST})
         GetDlgItem(control).EnableWindow(!IsRoot);
     GetDlgItem(IDC_HARDWARE_NAVIGATION).EnableWindow(LayoutIndex == kGridLayout);
+}
+
+// The dialog's first control may be disabled, or the radio button that isn't chosen. With nothing
+// to work, the dialog itself takes the keys.
+void CMenuOptionsDlg::FocusFirstEnabled()
+{
+    const HWND first = GetNextDlgTabItem(m_hWnd, nullptr, FALSE);
+    ::SetFocus(first && IsWindowEnabled(first) ? first : m_hWnd);
 }

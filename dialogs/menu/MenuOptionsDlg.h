@@ -47,4 +47,5 @@ private:
     void FieldsToControls();
     void ControlsToFields();
     void EnableControls();
+    void FocusFirstEnabled();
 };

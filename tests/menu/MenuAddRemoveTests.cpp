@@ -3,7 +3,8 @@
 #include "platform/os/Registry.h"
 #include "tests/menu/MenuFixture.h"
 
-namespace {
+namespace
+{
 
 class MenuAdd : public MenuTest
 {

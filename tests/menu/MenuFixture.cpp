@@ -78,7 +78,8 @@ CMenuTree LoadedTree(bool includeSettings)
     return tree;
 }
 
-namespace {
+namespace
+{
 
 void FindByText(const CMenuItemPtr& item, const std::wstring& text, CMenuItemPtr& found)
 {

@@ -7,7 +7,8 @@
 #include "menu/MenuKeys.h"
 #include "tests/menu/MenuFixture.h"
 
-namespace {
+namespace
+{
 
 CMenuItemPtr NewRoot()
 {
@@ -67,7 +68,8 @@ TEST(RefCount, SeveralThreadsCanShareAnObject)
 {
     bool gone = false;
     CRefPtr<CCounted> pointer(new CCounted(gone));
-    const auto copyOften = [](void* shared) -> DWORD {
+    const auto copyOften = [](void* shared) -> DWORD
+    {
         for (int i = 0; i < 20000; ++i)
             CRefPtr<CCounted> copy(*static_cast<CRefPtr<CCounted>*>(shared));
         return 0;
@@ -120,8 +122,8 @@ TEST(MenuItem, ARootHasAKeyPathAndNoParent)
 TEST(MenuItem, TheFieldsStandInTheirDocumentedOrder)
 {
     const CMenuItemPtr item = NewRoot();
-    const void* const fields[] = {&item->Id,       &item->KeyPath, &item->Index,   &item->Inactive,
-                                  &item->Text,     &item->Parent,  &item->Children};
+    const void* const fields[] = {&item->Id,   &item->KeyPath, &item->Index,   &item->Inactive,
+                                  &item->Text, &item->Parent,  &item->Children};
     for (size_t i = 1; i < std::size(fields); ++i)
         EXPECT_LT(fields[i - 1], fields[i]) << i;
 }

@@ -4,7 +4,8 @@
 #include "menu/MenuKeys.h"
 #include "tests/menu/MenuFixture.h"
 
-namespace {
+namespace
+{
 
 using MenuLoader = MenuTest;
 
@@ -53,7 +54,7 @@ TEST_F(MenuLoader, EveryItemOfTheTreeIsRegisteredUnderItsId)
     EXPECT_EQ(4u, tree.Items.Count());
     for (const wchar_t* const text : {L"", L"A", L"B", L"C"})
         EXPECT_EQ(ItemOf(tree, text), tree.Find(ItemOf(tree, text)->Id));
-    EXPECT_EQ(3, ItemOf(tree, L"C")->References() - 1 + 1) << "parent, map, the question's own";
+    EXPECT_EQ(3, ItemOf(tree, L"C")->References()) << "its parent, the map, and this question";
 }
 
 TEST_F(MenuLoader, ChildrenAreSortedAfterTheMergeOnEveryLevel)

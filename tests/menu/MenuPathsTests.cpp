@@ -4,7 +4,8 @@
 #include "menu/MenuKeys.h"
 #include "tests/menu/MenuFixture.h"
 
-namespace {
+namespace
+{
 
 const std::wstring kProduct = kMenuRootPath;
 const std::wstring kShared = kSharedRootPath;

@@ -8,7 +8,8 @@
 #include "platform/os/Registry.h"
 #include "tests/menu/MenuFixture.h"
 
-namespace {
+namespace
+{
 
 // One built-in menu "Games", one shared one "Tools", one user menu "Mine".
 class MenuStore : public MenuTest
@@ -26,7 +27,8 @@ protected:
         m_before = Dump();
     }
 
-    // What the registry has now and had not before, as sorted lines; lines that went are marked "-".
+    // What the registry has now and had not before, as sorted lines; lines that went are marked
+    // "-".
     std::wstring Changes() const
     {
         const std::wstring now = Dump();
@@ -108,7 +110,8 @@ TEST_F(MenuStore, HidingAUserItemWritesToItsOwnKey)
 
 TEST_F(MenuStore, CreatingOperationsFlushAndPlainOnesDoNot)
 {
-    const auto flushesOf = [](auto&& operation) {
+    const auto flushesOf = [](auto&& operation)
+    {
         const unsigned before = os::CountedRegistryCalls().flush;
         operation();
         return os::CountedRegistryCalls().flush - before;
@@ -118,7 +121,12 @@ TEST_F(MenuStore, CreatingOperationsFlushAndPlainOnesDoNot)
     EXPECT_EQ(1u, flushesOf([&] { m_games->SetRtFlags(1); }));
     EXPECT_EQ(1u, flushesOf([&] { m_games->SetRated(false); }));
     EXPECT_EQ(2u, flushesOf([&] { m_games->SetRated(true); })) << "the mirror and the counter";
-    EXPECT_EQ(1u, flushesOf([&] { m_tree.Root->Move(true, true); m_tree.Root->Renumber(); }))
+    EXPECT_EQ(1u, flushesOf(
+                      [&]
+                      {
+                          m_tree.Root->Move(true, true);
+                          m_tree.Root->Renumber();
+                      }))
         << "only Tools stands at another place than its number";
     EXPECT_EQ(1u, flushesOf([&] { NewUserKeyName(); }));
     EXPECT_EQ(0u, flushesOf([&] { m_mine->SetText(L"New"); }));
