@@ -1,6 +1,7 @@
 #include "frame/TranslationFile.h"
 
 #include "platform/Handles.h"
+#include "platform/os/FileKind.h"
 
 namespace
 {
@@ -44,18 +45,13 @@ UniqueText ReadUtf16(HANDLE file, DWORD size, size_t& length)
     return text;
 }
 
-UniqueText AllocateText(size_t length)
-{
-    return UniqueText(static_cast<wchar_t*>(std::calloc(length + 1, sizeof(wchar_t))));
-}
-
 UniqueText ReadAnsi(HANDLE file, DWORD size, size_t& length)
 {
     length = 0;
     // The conversion takes no empty text.
     if (size == 0)
-        return AllocateText(0);
-    const std::unique_ptr<char[], FreeMemory> bytes(static_cast<char*>(std::malloc(size)));
+        return AllocateZeroed<wchar_t>(1);
+    const UniqueMemory<char> bytes(static_cast<char*>(std::malloc(size)));
     if (!bytes || SetFilePointer(file, 0, nullptr, FILE_BEGIN) != 0 ||
         Read(file, bytes.get(), size) != size)
         return nullptr;
@@ -65,7 +61,7 @@ UniqueText ReadAnsi(HANDLE file, DWORD size, size_t& length)
     const int units = MultiByteToWideChar(CP_ACP, flags, bytes.get(), count, nullptr, 0);
     if (units <= 0)
         return nullptr;
-    UniqueText text = AllocateText(static_cast<size_t>(units));
+    UniqueText text = AllocateZeroed<wchar_t>(static_cast<size_t>(units) + 1);
     if (!text || MultiByteToWideChar(CP_ACP, flags, bytes.get(), count, text.get(), units) != units)
         return nullptr;
     length = static_cast<size_t>(units);
@@ -79,7 +75,7 @@ UniqueText ReadTranslationFile(const wchar_t* path, size_t& length)
     const UniqueFile file(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                       FILE_ATTRIBUTE_NORMAL, nullptr));
     DWORD size = 0;
-    if (!file || !SizeOf(file.get(), size))
+    if (!file || !os::IsDiskFile(file.get()) || !SizeOf(file.get(), size))
         return nullptr;
     return BeginsWithMark(file.get()) ? ReadUtf16(file.get(), size, length)
                                       : ReadAnsi(file.get(), size, length);

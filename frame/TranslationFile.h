@@ -1,17 +1,9 @@
 // Reads the translation file into memory, in either of its two encodings.
 #pragma once
 
-#include <cstddef>
-#include <cstdlib>
-#include <memory>
+#include "platform/Memory.h"
 
-struct FreeMemory
-{
-    void operator()(void* memory) const { std::free(memory); }
-};
-
-// From malloc.
-using UniqueText = std::unique_ptr<wchar_t[], FreeMemory>;
+using UniqueText = UniqueMemory<wchar_t>;
 
 // The whole file as UTF-16 with a zero behind it, and its length without that zero. A file that
 // begins with FF FE is UTF-16 little-endian, any other one is in the system's ANSI code page. Null

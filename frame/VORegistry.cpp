@@ -1,27 +1,33 @@
 #include "frame/VORegistry.h"
 
+#include "platform/Memory.h"
 #include "platform/os/Registry.h"
-
-#include <vector>
 
 namespace
 {
 
 // Most texts fit here and are read with one call; longer ones take a second.
 constexpr DWORD kUsualTextBytes = 1024;
-// A value may grow between the question for its size and the read; then both are tried again.
-constexpr int kReadAttempts = 4;
+// The usual size, the size that the value turned out to have, and three more for a value that
+// grows between two reads.
+constexpr int kReadAttempts = 5;
+
+// A name may be null, which means the key's unnamed value, but not point to nowhere.
+bool IsBadName(const wchar_t* name)
+{
+    return name && !IsReadableString(name);
+}
 
 // The text up to its first zero within `bytes` bytes of data; half a character at the end is
-// completed with a zero byte.
-std::wstring TextOf(std::vector<wchar_t>& buffer, DWORD bytes)
+// completed with a zero byte. The buffer has room for two characters more.
+std::wstring TextOf(wchar_t* buffer, DWORD bytes)
 {
     const size_t whole = bytes / sizeof(wchar_t);
     const size_t used = whole + bytes % sizeof(wchar_t);
     if (used > whole)
         buffer[whole] = static_cast<wchar_t>(buffer[whole] & 0xFF);
     buffer[used] = L'\0';
-    return std::wstring(buffer.data());
+    return std::wstring(buffer);
 }
 
 } // namespace
@@ -52,6 +58,8 @@ CVORegistry::~CVORegistry()
 
 BOOL CVORegistry::GetDWORD(const wchar_t* name, DWORD& value) const
 {
+    if (IsBadName(name))
+        return FALSE;
     DWORD read = 0;
     DWORD size = sizeof(read);
     if (os::QueryValue(Key, name, nullptr, &read, &size) != ERROR_SUCCESS)
@@ -73,18 +81,20 @@ std::wstring CVORegistry::GetString(const wchar_t* name, const wchar_t* defaultT
     if (!IsReadableString(name))
         return std::wstring();
 
-    std::vector<wchar_t> buffer;
     DWORD size = kUsualTextBytes;
     for (int attempt = 0; attempt < kReadAttempts; ++attempt)
     {
-        buffer.assign(static_cast<size_t>(size) / sizeof(wchar_t) + 2, L'\0');
+        const auto buffer =
+            AllocateZeroed<wchar_t>(static_cast<size_t>(size) / sizeof(wchar_t) + 2);
+        if (!buffer)
+            break;
         DWORD type = REG_NONE;
-        const LONG error = os::QueryValue(Key, name, &type, buffer.data(), &size);
+        const LONG error = os::QueryValue(Key, name, &type, buffer.get(), &size);
         const bool exists = error == ERROR_SUCCESS || error == ERROR_MORE_DATA;
         if (exists && type != REG_SZ)
             return IsReadableString(defaultText) ? std::wstring(defaultText) : std::wstring();
         if (error == ERROR_SUCCESS)
-            return TextOf(buffer, size);
+            return TextOf(buffer.get(), size);
         if (error != ERROR_MORE_DATA)
             break;
     }
@@ -106,6 +116,8 @@ BOOL CVORegistry::SetString(const wchar_t* name, const wchar_t* text)
 
 BOOL CVORegistry::GetBinary(const wchar_t* name, void* buffer, DWORD* size) const
 {
+    if (IsBadName(name))
+        return FALSE;
     if (buffer && size && *size != 0 &&
         (IsBadReadPtr(buffer, *size) || IsBadWritePtr(buffer, *size)))
         return FALSE;
@@ -114,7 +126,7 @@ BOOL CVORegistry::GetBinary(const wchar_t* name, void* buffer, DWORD* size) cons
 
 BOOL CVORegistry::SetBinary(const wchar_t* name, const void* data, DWORD size)
 {
-    if (!data || IsBadReadPtr(data, size))
+    if (IsBadName(name) || !data || IsBadReadPtr(data, size))
         return FALSE;
     Modified = TRUE;
     return os::SetValue(Key, name, REG_BINARY, data, size) == ERROR_SUCCESS;

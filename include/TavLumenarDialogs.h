@@ -10,7 +10,8 @@
 #include <windows.h>
 
 #ifdef __cplusplus
-extern "C" {
+extern "C"
+{
 #endif
 
 #ifdef TAVLUMENAR_DIALOGS_EXPORTS
@@ -21,39 +22,41 @@ extern "C" {
 
 /* The record that SelectCity exchanges: always 244 bytes, in this layout. */
 #pragma pack(push, 1)
-typedef struct CITYINFO
-{
-    DWORD identifier;   /* the city; on input only used to pre-select it */
-    WCHAR name[32];     /* at most 31 characters, padded with zeros */
-    DWORD hasDetails;   /* 1 when `details` was filled from the database */
-    BYTE details[172];  /* as the database holds them; untouched when hasDetails is 0 */
-} CITYINFO;
+    typedef struct CITYINFO
+    {
+        DWORD identifier;  /* the city; on input only used to pre-select it */
+        WCHAR name[32];    /* at most 31 characters, padded with zeros */
+        DWORD hasDetails;  /* 1 when `details` was filled from the database */
+        BYTE details[172]; /* as the database holds them; untouched when hasDetails is 0 */
+    } CITYINFO;
 #pragma pack(pop)
 
-/* All exports return TRUE exactly when the user confirmed with "Done"; FALSE when the dialog was
- * cancelled, closed in any other way or could not be shown. A failure inside the dialog may leave
- * an export as a C++ exception (CTavException); see the host guide.
- * Arguments named unused are accepted and ignored.
- */
+    /* All exports return TRUE exactly when the user confirmed with "Done"; FALSE when the dialog
+     * was cancelled, closed in any other way or could not be shown. A failure inside the dialog may
+     * leave an export as a C++ exception (CTavException); see the host guide. Arguments named
+     * unused are accepted and ignored.
+     */
 
-/* Edits the launcher menu. Changes are written to the registry while the dialog is open. */
-TAVLUMENAR_API BOOL WINAPI CustomizeMenu(HWND owner, DWORD unused2, DWORD unused3, DWORD unused4);
+    /* Edits the launcher menu. Changes are written to the registry while the dialog is open. */
+    TAVLUMENAR_API BOOL WINAPI CustomizeMenu(HWND owner, DWORD unused2, DWORD unused3,
+                                             DWORD unused4);
 
-/* Chooses which entries are pinned to the home screen, at most `maxPinned` of them. */
-TAVLUMENAR_API BOOL WINAPI CustomizeHome(HWND owner, DWORD maxPinned, DWORD unused3,
-                                         DWORD unused4);
+    /* Chooses which entries are pinned to the home screen, at most `maxPinned` of them. */
+    TAVLUMENAR_API BOOL WINAPI CustomizeHome(HWND owner, DWORD maxPinned, DWORD unused3,
+                                             DWORD unused4);
 
-/* Chooses which plug-ins the Now screen uses. */
-TAVLUMENAR_API BOOL WINAPI CustomizeNow(HWND owner, DWORD unused2, DWORD unused3, DWORD unused4);
+    /* Chooses which plug-ins the Now screen uses. */
+    TAVLUMENAR_API BOOL WINAPI CustomizeNow(HWND owner, DWORD unused2, DWORD unused3,
+                                            DWORD unused4);
 
-/* The first-run choice of the layout; owned by the calling thread's active window. */
-TAVLUMENAR_API BOOL WINAPI InstallWizard(DWORD unused1, DWORD unused2, DWORD unused3,
-                                         DWORD unused4);
+    /* The first-run choice of the layout; owned by the calling thread's active window. */
+    TAVLUMENAR_API BOOL WINAPI InstallWizard(DWORD unused1, DWORD unused2, DWORD unused3,
+                                             DWORD unused4);
 
-/* Picks a city. `city` is the initial choice and receives the new one, whole, when the result is
- * TRUE; otherwise it is left untouched. FALSE at once when `city` is null.
- */
-TAVLUMENAR_API BOOL WINAPI SelectCity(HWND owner, CITYINFO* city, DWORD unused3);
+    /* Picks a city. `city` is the initial choice and receives the new one, whole, when the result
+     * is TRUE; otherwise it is left untouched. FALSE at once when `city` is null.
+     */
+    TAVLUMENAR_API BOOL WINAPI SelectCity(HWND owner, CITYINFO* city, DWORD unused3);
 
 /* The window of the launcher-menu process: draws icons and filters launch targets on request. */
 #define TAVLUMENAR_MENU_WINDOW_CLASS L"TavMenu_ProcessWindow"

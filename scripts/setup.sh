@@ -5,7 +5,7 @@ set -euo pipefail
 
 # Compilers for the handheld's two stand-in word sizes, and for the natively built pure code.
 packages=(
-    g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix clang-14 libclang-rt-14-dev
+    g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix clang-14 clang-format-14 libclang-rt-14-dev
     cmake ninja-build ccache git
 )
 # Running and testing Windows binaries: Wine, a virtual screen, the handheld's face Tahoma.

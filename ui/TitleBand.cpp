@@ -14,6 +14,8 @@ constexpr int kBandHeight = 23;
 constexpr int kLineThickness = 1;
 constexpr int kTitleMargin = 8;
 constexpr int kTitleSize = 256;
+// Farther down than any screen, with room left for the line.
+constexpr int kFarthestEdge = INT32_MAX / 2;
 
 // BeginPaint and EndPaint around a scope.
 class CPaint
@@ -89,7 +91,7 @@ void PaintTitleBand(HWND dialog)
     wchar_t title[kTitleSize] = {};
     GetWindowTextW(dialog, title, kTitleSize);
     if (static_cast<int64_t>(TitleBandHeight()) - position > 0)
-        DrawBand(paint.dc(), title, -position);
+        DrawBand(paint.dc(), title, -std::max(position, -kFarthestEdge));
 }
 
 std::optional<int> ScrolledBandBottom(int position, int current, int height)
@@ -99,5 +101,5 @@ std::optional<int> ScrolledBandBottom(int position, int current, int height)
     const int64_t bottom = static_cast<int64_t>(height) - std::min(position, current);
     if (bottom < 0)
         return std::nullopt;
-    return static_cast<int>(std::min<int64_t>(bottom, INT32_MAX));
+    return static_cast<int>(std::min<int64_t>(bottom, kFarthestEdge));
 }

@@ -4,15 +4,16 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace
+{
 
 TEST(OsRegistry, ALeadingBackslashAndAccessZeroGiveAKeyThatCanBeReadAndWritten)
 {
     CRegistrySandbox hive;
     HKEY key = nullptr;
     DWORD disposition = 0;
-    ASSERT_EQ(ERROR_SUCCESS, os::CreateKey(HKEY_LOCAL_MACHINE, L"\\SOFTWARE\\A\\B", 0, &key,
-                                           &disposition));
+    ASSERT_EQ(ERROR_SUCCESS,
+              os::CreateKey(HKEY_LOCAL_MACHINE, L"\\SOFTWARE\\A\\B", 0, &key, &disposition));
     EXPECT_EQ(static_cast<DWORD>(REG_CREATED_NEW_KEY), disposition);
     os::CloseKey(key);
     ASSERT_EQ(ERROR_SUCCESS, os::OpenKey(HKEY_LOCAL_MACHINE, L"\\SOFTWARE\\A\\B", 0, &key));
