@@ -1,5 +1,7 @@
 #include "device/ColourScheme.h"
 
+#include "platform/Handles.h"
+
 namespace
 {
 
@@ -41,12 +43,24 @@ constexpr Entry kScheme[] = {
 };
 constexpr int kCount = sizeof(kScheme) / sizeof(kScheme[0]);
 
+// The common controls keep copies of the colours; any one of them renews the copies for all when it
+// hears of a change, which is announced to top-level windows only.
+void RefreshControls()
+{
+    const INITCOMMONCONTROLSEX wanted = {sizeof(wanted), ICC_BAR_CLASSES};
+    InitCommonControlsEx(&wanted);
+    const UniqueWindow bar(CreateWindowExW(0, TOOLBARCLASSNAMEW, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
+                                           nullptr, nullptr, nullptr));
+    SendMessageW(bar.get(), WM_SYSCOLORCHANGE, 0, 0);
+}
+
 void Apply(const std::vector<COLORREF>& wanted)
 {
     int elements[kCount];
     for (int i = 0; i < kCount; ++i)
         elements[i] = kScheme[i].Element;
     SetSysColors(kCount, elements, wanted.data());
+    RefreshControls();
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "device/Dialogs.h"
 
+#include "device/Texts.h"
 #include "include/TavLumenarDialogs.h"
 
 namespace
@@ -14,11 +15,11 @@ BOOL RunCustomizeMenu(HWND owner)
 
 // The exports without a function answer FALSE until their dialogs are written.
 const DialogEntry kDialogs[kDialogCount] = {
-    {L"customize-menu", L"Customize Menu", 118, RunCustomizeMenu},
-    {L"customize-home", L"Manage Pinned", 101, nullptr},
-    {L"customize-now", L"Customize Now Screen", 138, nullptr},
-    {L"install-wizard", L"Choose Layout", 130, nullptr},
-    {L"select-city", L"Select City", 131, nullptr},
+    {L"customize-menu", texts::kCustomizeMenu, 129, RunCustomizeMenu},
+    {L"customize-home", texts::kCustomizeHome, 101, nullptr},
+    {L"customize-now", texts::kCustomizeNow, 138, nullptr},
+    {L"install-wizard", texts::kInstallWizard, 130, nullptr},
+    {L"select-city", texts::kSelectCity, 131, nullptr},
 };
 
 const DialogEntry* FindDialogEntry(const std::wstring& name)

@@ -77,20 +77,22 @@ void CHomeScreen::PaintEntry(HDC dc, int entry, const RECT& area)
     if (selected)
         PaintSelection(dc, area);
     const int iconWidth = ScaleX(44);
-    icons::Draw(dc, dialog.Icon, LeftPart(area, iconWidth), ScaleY(24));
+    icons::Draw(dc, dialog.Icon, LeftPart(area, iconWidth), ScaleY(kIconSize));
     RECT text = area;
     text.left += iconWidth;
     text.right -= ScaleX(kMargin);
-    const COLORREF faded = selected ? colours::kMist : colours::kFaded;
-    const COLORREF ink = selected ? colours::kWhite : colours::kInk;
-    if (!dialog.Run)
+    const std::wstring title = texts::Translate(dialog.Title);
+    if (dialog.Run)
     {
-        const std::wstring toCome = texts::Translate(texts::kToCome);
-        painting::Text(dc, m_small.get(), toCome, text, faded, DT_RIGHT | DT_VCENTER);
-        text.right -= ScaleX(44);
+        painting::Text(dc, m_bold.get(), title, text, selected ? colours::kWhite : colours::kInk,
+                       DT_LEFT | DT_VCENTER);
+        return;
     }
-    painting::Text(dc, dialog.Run ? m_bold.get() : m_normal.get(), texts::Translate(dialog.Title),
-                   text, dialog.Run ? ink : faded, DT_LEFT | DT_VCENTER);
+    const COLORREF faded = selected ? colours::kMist : colours::kFaded;
+    InflateRect(&text, 0, -ScaleY(3));
+    painting::Text(dc, m_normal.get(), title, text, faded, DT_LEFT | DT_TOP);
+    painting::Text(dc, m_small.get(), texts::Translate(texts::kToCome), text, faded,
+                   DT_LEFT | DT_BOTTOM);
 }
 
 void CHomeScreen::PaintMenu(HDC dc)

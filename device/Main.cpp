@@ -93,14 +93,20 @@ int TakePicture(CHomeScreen& home, const Options& options)
     {
         CPictureDriver driver(GetCurrentThreadId(), options.Picture, options.PictureFile);
         kDialogs[0].Run(home.Window());
-        return driver.Finish() ? 0 : 1;
+        if (driver.Finish())
+            return 0;
+        Complain(options.Picture + L": " + driver.Problem());
+        return 1;
     }
     if (options.Picture == L"launcher-menu")
         home.ShowLauncher();
     else if (options.Picture != L"home")
         return kUsageError;
     HandleWaitingMessages();
-    return WritePng(CopyScreen(), options.PictureFile) ? 0 : 1;
+    if (WritePng(CopySettledScreen(), options.PictureFile))
+        return 0;
+    Complain(options.Picture + L": the file can't be written");
+    return 1;
 }
 
 int RunShell(const Options& options)

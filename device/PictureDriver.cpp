@@ -89,13 +89,13 @@ HTREEITEM ChildOfRoot(HWND tree, int position)
     return node;
 }
 
-// Where the sample menu has the folder that the pictures show: behind the user's own menu.
-constexpr int kOfficePosition = 5;
+// Where the sample menu has the folder that the pictures show: its games, which fit on one screen.
+constexpr int kFolderPosition = 7;
 
-// Opens the sample menu's office folder with the stylus and the keys.
+// Opens that folder with the stylus and the keys.
 bool OpenFolder(HWND tree)
 {
-    const HTREEITEM folder = ChildOfRoot(tree, kOfficePosition);
+    const HTREEITEM folder = ChildOfRoot(tree, kFolderPosition);
     if (!folder)
         return false;
     stylus::Tap(MiddleOf(tree, folder));
@@ -137,61 +137,71 @@ bool CPictureDriver::Finish()
 {
     if (m_thread.joinable())
         m_thread.join();
-    return m_done;
+    return m_problem.empty();
 }
 
 void CPictureDriver::Run()
 {
     CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-    m_dialog = WaitForDialog(nullptr);
-    if (m_dialog && BringUpView())
-        m_done = WritePng(CopySettledScreen(), m_file);
+    m_problem = TakePicture();
     CloseAll();
     CoUninitialize();
 }
 
-bool CPictureDriver::BringUpView()
+std::wstring CPictureDriver::TakePicture()
+{
+    m_dialog = WaitForDialog(nullptr);
+    if (!m_dialog)
+        return L"no dialog appeared";
+    const std::wstring problem = BringUpView();
+    if (!problem.empty())
+        return problem;
+    return WritePng(CopySettledScreen(), m_file) ? L"" : L"the file can't be written";
+}
+
+std::wstring CPictureDriver::BringUpView()
 {
     const HWND tree = TreeOf(m_dialog);
     if (!tree || !OpenFolder(tree))
-        return false;
+        return L"the folder can't be opened";
     if (m_view == L"customize-menu-popup")
         return OpenSoftKeyMenu();
     if (m_view == L"customize-menu-context")
         return OpenContextMenu(tree);
     if (m_view == L"menu-options")
         return OpenMenuOptions();
-    return true;
+    return {};
 }
 
 // Holds the stylus on the selected label until the menu is there.
-bool CPictureDriver::OpenContextMenu(HWND tree)
+std::wstring CPictureDriver::OpenContextMenu(HWND tree)
 {
-    const POINT middle = MiddleOf(tree, ChildOfRoot(tree, kOfficePosition));
+    const POINT middle = MiddleOf(tree, ChildOfRoot(tree, kFolderPosition));
     stylus::Down(middle);
     const bool open = WaitForPopup();
     stylus::Up(middle);
-    return open;
+    return open ? L"" : L"holding the stylus opened no menu";
 }
 
-bool CPictureDriver::OpenSoftKeyMenu()
+std::wstring CPictureDriver::OpenSoftKeyMenu()
 {
     const HWND bar = SHFindMenuBar(m_dialog);
     RECT area = {};
     if (!bar || !GetWindowRect(bar, &area))
-        return false;
+        return L"there are no soft keys";
     stylus::Tap({area.left + (area.right - area.left) * 3 / 4, (area.top + area.bottom) / 2});
-    return WaitForPopup();
+    return WaitForPopup() ? L"" : L"the soft key opened no menu";
 }
 
-bool CPictureDriver::OpenMenuOptions()
+std::wstring CPictureDriver::OpenMenuOptions()
 {
-    if (!OpenSoftKeyMenu())
-        return false;
+    const std::wstring problem = OpenSoftKeyMenu();
+    if (!problem.empty())
+        return problem;
     // The last entry of the menu.
     stylus::Key(VK_UP);
     stylus::Key(VK_RETURN);
-    return WaitForDialog(m_dialog) != nullptr;
+    return WaitForDialog(m_dialog) ? L"" : L"no Menu Options appeared";
 }
 
 HWND CPictureDriver::WaitForDialog(HWND other) const
@@ -200,8 +210,9 @@ HWND CPictureDriver::WaitForDialog(HWND other) const
     WaitUntil(
         [&]
         {
+            // Only the foreground window gets the input.
             EnumThreadWindows(m_uiThread, FindReadyDialog, reinterpret_cast<LPARAM>(&search));
-            return search.Found != nullptr;
+            return search.Found && GetForegroundWindow() == search.Found;
         });
     if (search.Found)
         WaitForThreadOf(search.Found);

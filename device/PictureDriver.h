@@ -23,13 +23,17 @@ public:
 
     // Waits until the picture is done; false when a step failed.
     bool Finish();
+    // After Finish: which step failed; empty when none did.
+    const std::wstring& Problem() const { return m_problem; }
 
 private:
     void Run();
-    bool BringUpView();
-    bool OpenContextMenu(HWND tree);
-    bool OpenSoftKeyMenu();
-    bool OpenMenuOptions();
+    // Each gives what went wrong, an empty text when nothing did.
+    std::wstring TakePicture();
+    std::wstring BringUpView();
+    std::wstring OpenContextMenu(HWND tree);
+    std::wstring OpenSoftKeyMenu();
+    std::wstring OpenMenuOptions();
     HWND WaitForDialog(HWND other) const;
     bool WaitForPopup() const;
     void CloseAll();
@@ -38,6 +42,6 @@ private:
     std::wstring m_view;
     std::wstring m_file;
     HWND m_dialog = nullptr;
-    bool m_done = false;
+    std::wstring m_problem;
     std::thread m_thread;
 };

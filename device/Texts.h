@@ -14,7 +14,16 @@ constexpr const wchar_t* kToCome = L"to come";
 constexpr const wchar_t* kHidden = L"%d hidden";
 constexpr const wchar_t* kNoProgram = L"This sample device has no program for '%s'.";
 
-constexpr const wchar_t* kAll[] = {kMenu, kExit, kOpen, kBack, kToCome, kHidden, kNoProgram};
+// The dialogs that can be opened.
+constexpr const wchar_t* kCustomizeMenu = L"Customize Menu";
+constexpr const wchar_t* kCustomizeHome = L"Manage Pinned";
+constexpr const wchar_t* kCustomizeNow = L"Customize Now";
+constexpr const wchar_t* kInstallWizard = L"Choose Layout";
+constexpr const wchar_t* kSelectCity = L"Select City";
+
+constexpr const wchar_t* kAll[] = {kMenu,          kExit,         kOpen,          kBack,
+                                   kToCome,        kHidden,       kNoProgram,     kCustomizeMenu,
+                                   kCustomizeHome, kCustomizeNow, kInstallWizard, kSelectCity};
 
 // The translation of a text, the text itself where there is none.
 std::wstring Translate(const wchar_t* text);

@@ -14,41 +14,50 @@ session=$PWD/out/pictures-session
 trap 'scripts/session.sh stop "$session"' EXIT
 step "Starting virtual screens" scripts/session.sh start "$session"
 
-views=(home launcher-menu customize-menu customize-menu-popup customize-menu-context menu-options)
+views=(home customize-menu customize-menu-popup customize-menu-context menu-options)
 
 use_screen() { # WxH
-    WINEPREFIX=$(sed -n 's/^WINEPREFIX=//p' "$session/$1.env")
-    export WINEPREFIX TAV_SESSION=$session TAV_SCREEN=$1
+    size=$1
+    set -a
+    # shellcheck disable=SC1090
+    source "$session/$size.env"
+    set +a
+}
+
+# Directly rather than through scripts/wine-run: the language goes to Wine alone.
+run_shell() { # ARGUMENTS...
+    LC_ALL=$(locale_of "$language") timeout 60 wine "$shell_program" "$@"
 }
 
 take() { # VIEW
-    local file=$target/$1-$TAV_SCREEN-$language.png
+    local file=$target/$1-$size-$language.png
     rm -f "$file"
-    LC_ALL=$(locale_of "$language") timeout 60 scripts/wine-run "$shell_program" --picture "$1" "Z:$file"
+    run_shell --picture "$1" "Z:$file"
     [ -s "$file" ]
 }
 
 prepare_screen() {
     prepare_folders
     # Always the same device, whatever happened to it before.
-    scripts/wine-run "$shell_program" --seed --fresh
+    run_shell --seed --fresh
     choose_language
 }
 
 take_all() { # WxH LANGUAGE VIEWS...
-    local size=$1 view
+    local view
+    use_screen "$1"
     language=$2
     shift 2
-    use_screen "$size"
     step "Preparing a device of $size, $language" prepare_screen
     for view in "$@"; do
         step "  $view" take "$view"
     done
 }
 
-for size in 240x320 320x240 480x640; do
-    take_all "$size" en "${views[@]}"
+for screen in 240x320 320x240 480x640; do
+    take_all "$screen" en "${views[@]}"
 done
+take_all 240x320 en launcher-menu
 take_all 240x320 de home customize-menu menu-options
 take_all 240x320 ru home customize-menu menu-options
 echo "The pictures are in $target."

@@ -17,6 +17,12 @@ step() { # NAME COMMAND...
     printf '%3d.%d s\n' $(((end - begin) / 1000000)) $(((end - begin) / 100000 % 10))
 }
 
+# Builds the device's programs and what they load; tests and benchmarks can wait for ./build.
+build_device() {
+    [ -f out/x86_64/build.ninja ] || cmake --preset x86_64
+    cmake --build --preset x86_64 --target TavLumenarShell
+}
+
 # True when a window could be opened: a reachable display, asked for with Wine's own first connection.
 has_display() {
     [ -n "${DISPLAY:-}" ] || return 1

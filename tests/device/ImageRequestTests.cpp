@@ -9,7 +9,8 @@
 
 using namespace requests;
 
-namespace {
+namespace
+{
 
 std::vector<uint8_t> IconRecord()
 {

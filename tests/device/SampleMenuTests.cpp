@@ -11,7 +11,8 @@
 #include "device/SampleRatings.h"
 #include "platform/os/Text.h"
 
-namespace {
+namespace
+{
 
 using sample::Layer;
 using sample::MenuKey;
@@ -53,9 +54,10 @@ TEST(SampleMenu, NoKeyIsListedTwiceInOneLayer)
 
 TEST(SampleMenu, SomeItemsExistOnlyInTheSharedLayer)
 {
-    EXPECT_GE(CountKeys([](const MenuKey& key)
-                        { return key.Where == Layer::Shared && !Exists(Layer::Product, key.Path); }),
-              5);
+    EXPECT_GE(
+        CountKeys([](const MenuKey& key)
+                  { return key.Where == Layer::Shared && !Exists(Layer::Product, key.Path); }),
+        5);
 }
 
 TEST(SampleMenu, SomeItemsExistInBothBuiltInLayers)
@@ -99,8 +101,8 @@ TEST(SampleMenu, TheUserHasMenusWithLinksInside)
                   [](const MenuKey& link)
                   {
                       const std::wstring path = link.Path;
-                      return link.File && Exists(Layer::Customised,
-                                                 path.substr(0, path.rfind(L'\\'))) &&
+                      return link.File &&
+                             Exists(Layer::Customised, path.substr(0, path.rfind(L'\\'))) &&
                              link.User == 1;
                   }),
               3);
@@ -132,7 +134,8 @@ TEST(SampleMenu, EveryRatedMenuHasItsList)
             continue;
         ++rated;
         const auto lists = sample::RatingLists();
-        EXPECT_TRUE(std::any_of(lists.begin(), lists.end(), [&](const sample::RatingList& list)
+        EXPECT_TRUE(std::any_of(lists.begin(), lists.end(),
+                                [&](const sample::RatingList& list)
                                 { return std::wstring(list.Name) == key.Rating; }))
             << key.Rating;
     }
@@ -163,13 +166,10 @@ TEST(SampleMenu, EveryUserLinkLeadsToAShortcutOfTheStartMenu)
         if (!key.File)
             continue;
         const auto files = sample::StartMenuFiles();
-        EXPECT_TRUE(std::any_of(files.begin(), files.end(),
-                                [&](const sample::StartMenuFile& file)
-                                {
-                                    return std::wstring(sample::kStartMenuFolder) + L"\\" +
-                                               file.Path ==
-                                           key.File;
-                                }))
+        EXPECT_TRUE(std::any_of(
+            files.begin(), files.end(),
+            [&](const sample::StartMenuFile& file)
+            { return std::wstring(sample::kStartMenuFolder) + L"\\" + file.Path == key.File; }))
             << key.File;
     }
 }

@@ -4,14 +4,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "device/Keys.h"
 #include "device/Shortcut.h"
 #include "menu/MenuKeys.h"
 #include "menu/MenuTree.h"
+#include "platform/Handles.h"
 #include "tests/support/RegistrySandbox.h"
 
-namespace {
+namespace
+{
 
 constexpr const wchar_t* kFolder = L"C:\\Device";
 
@@ -82,9 +85,9 @@ TEST_F(Seed, TheSettingsBranchHasChildrenForThoseWhoAskForThem)
 TEST_F(Seed, TheFirstLevelStandsInTheUsersOrder)
 {
     const std::vector<std::wstring> expected = {
-        L"Programs", L"Contacts", L"Messaging", L"Calendar",      L"Favorites",
-        L"Office",   L"Multimedia", L"Games",   L"Tools",         L"Communication",
-        L"Help",     L"Settings", L"Task Switcher", L"Accessories"};
+        L"Programs", L"Contacts",   L"Messaging",     L"Calendar",   L"Favorites",
+        L"Office",   L"Multimedia", L"Games",         L"Tools",      L"Connect",
+        L"Help",     L"Settings",   L"Task Switcher", L"Accessories"};
     EXPECT_EQ(expected, TextsOfFirstLevel());
 }
 
@@ -155,6 +158,6 @@ TEST(SeedFiles, EveryShortcutOfTheStartMenuIsWrittenAndCanBeRead)
     char bytes[256];
     DWORD length = 0;
     ASSERT_TRUE(ReadFile(handle.get(), bytes, sizeof(bytes), &length, nullptr));
-    EXPECT_EQ("53#\"\\Program Files\\Games\\Chess.exe\"?C:\\shell.exe,-117",
+    EXPECT_EQ("50#\"\\Program Files\\Games\\Chess.exe\"?C:\\shell.exe,-117",
               std::string(bytes, length));
 }

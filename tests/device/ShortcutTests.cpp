@@ -5,7 +5,8 @@
 
 using shortcut::Shortcut;
 
-namespace {
+namespace
+{
 
 Shortcut Read(const std::wstring& text)
 {
@@ -24,7 +25,7 @@ bool IsShortcut(const std::wstring& text)
 
 TEST(ShortcutFile, TargetAndIconAreRead)
 {
-    const Shortcut found = Read(L"33#\"\\Windows\\calc.exe\"?\\shell.exe,-120");
+    const Shortcut found = Read(L"35#\"\\Windows\\calc.exe\"?\\shell.exe,-120");
     EXPECT_EQ(L"\\Windows\\calc.exe", found.Target);
     EXPECT_EQ(L"\\shell.exe", found.IconFile);
     EXPECT_EQ(120, found.Icon);
