@@ -41,7 +41,7 @@ BOOL CTavLocalizerAPI::LoadFile(const wchar_t* path)
     Text = ReadTranslationFile(path, length).release();
     if (!Text)
         return FALSE;
-    Map.StorePairs(Text, ParseTranslation(Text, Text + length));
+    Map.StoreAll(ParseTranslation(Text, Text + length));
     return TRUE;
 }
 

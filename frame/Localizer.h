@@ -68,7 +68,7 @@ public:
 
 private:
     const wchar_t* Translation(const wchar_t* text) const;
-    void TranslateMenuItems(HMENU menu, wchar_t* buffer) const;
+    bool TranslateMenuItem(HMENU menu, UINT position, wchar_t* buffer) const;
     void TranslateButton(HWND bar, int index) const;
 };
 

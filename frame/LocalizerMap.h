@@ -2,16 +2,27 @@
 #pragma once
 
 #include "frame/GenericMap.h"
+#include "frame/TranslationParser.h"
 #include "platform/Char16.h"
 
 // A zero-terminated text as a key: two are equal when all their code units are. Null is the empty
 // text.
 struct STRING_WRAPPER
 {
+    const Char16* TextOrEmpty() const { return Text ? Text : TEXT16(""); }
+
     const Char16* Text;
 };
 
-bool operator==(const STRING_WRAPPER& left, const STRING_WRAPPER& right);
+inline bool operator==(const STRING_WRAPPER& left, const STRING_WRAPPER& right)
+{
+    const Char16* a = left.TextOrEmpty();
+    const Char16* b = right.TextOrEmpty();
+    for (; *a == *b; ++a, ++b)
+        if (*a == 0)
+            return true;
+    return false;
+}
 
 // Neither keys nor values are owned: they point into the translator's file buffer.
 class CLocalizerMap : public CGenericMap<STRING_WRAPPER, Char16*>
@@ -24,9 +35,8 @@ public:
     // made ("af" and "ba"), which only costs time: the file belongs to the installation.
     uint32_t Hash(const STRING_WRAPPER& key) const override;
 
-    // Stores the `count` pairs that stand one behind the other from `pairs` on: key, zero, value,
-    // zero. A later pair replaces an earlier one with the same key.
-    void StorePairs(Char16* pairs, size_t count);
+    // Stores all entries; a later one replaces an earlier one with the same English text.
+    void StoreAll(const std::vector<TranslationEntry>& entries);
 };
 
 // On the handheld a group is 65 words.

@@ -97,26 +97,25 @@ void CTavLocalizerAPI::TranslateDialog(HWND dialog) const
     }
 }
 
-// Translates the items of one menu; `buffer` has room for kItemSize characters.
-void CTavLocalizerAPI::TranslateMenuItems(HMENU menu, wchar_t* buffer) const
+// Translates one item of a menu, false behind the last one; `buffer` has room for kItemSize
+// characters.
+bool CTavLocalizerAPI::TranslateMenuItem(HMENU menu, UINT position, wchar_t* buffer) const
 {
-    for (UINT position = 0;; ++position)
+    // An item that is no text leaves the buffer as it is: empty, which has no translation.
+    buffer[0] = L'\0';
+    MENUITEMINFOW info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = MIIM_TYPE;
+    info.dwTypeData = buffer;
+    info.cch = kItemSize;
+    if (!GetMenuItemInfoW(menu, position, TRUE, &info))
+        return false;
+    if (const wchar_t* const translation = Translation(buffer))
     {
-        // An item that is no text leaves the buffer as it is: empty, which has no translation.
-        buffer[0] = L'\0';
-        MENUITEMINFOW info = {};
-        info.cbSize = sizeof(info);
-        info.fMask = MIIM_TYPE;
-        info.dwTypeData = buffer;
-        info.cch = kItemSize;
-        if (!GetMenuItemInfoW(menu, position, TRUE, &info))
-            return;
-        if (const wchar_t* const translation = Translation(buffer))
-        {
-            info.dwTypeData = const_cast<wchar_t*>(translation);
-            SetMenuItemInfoW(menu, position, TRUE, &info);
-        }
+        info.dwTypeData = const_cast<wchar_t*>(translation);
+        SetMenuItemInfoW(menu, position, TRUE, &info);
     }
+    return true;
 }
 
 void CTavLocalizerAPI::TranslateMenu(HMENU menu) const
@@ -129,11 +128,9 @@ void CTavLocalizerAPI::TranslateMenu(HMENU menu) const
     {
         const HMENU current = waiting.back();
         waiting.pop_back();
-        TranslateMenuItems(current, buffer.data());
-        const int count = GetMenuItemCount(current);
-        for (int position = 0; position < count; ++position)
+        for (UINT position = 0; TranslateMenuItem(current, position, buffer.data()); ++position)
         {
-            const HMENU popup = GetSubMenu(current, position);
+            const HMENU popup = GetSubMenu(current, static_cast<int>(position));
             if (popup && seen.insert(popup).second)
                 waiting.push_back(popup);
         }
@@ -165,9 +162,9 @@ void CTavLocalizerAPI::TranslateButton(HWND bar, int index) const
     info.cchText = kButtonTextSize;
     if (SendMessageW(bar, TB_GETBUTTONINFOW, command, reinterpret_cast<LPARAM>(&info)) == -1)
         return;
-    if (const wchar_t* const translation = Translation(text))
+    if (Translation(text))
     {
-        lstrcpynW(text, translation, kButtonTextSize);
+        TranslateTextToBuffer(text, text, kButtonTextSize);
         SendMessageW(bar, TB_SETBUTTONINFOW, command, reinterpret_cast<LPARAM>(&info));
     }
     if (info.lParam)

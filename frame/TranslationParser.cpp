@@ -47,55 +47,60 @@ class CParser
 public:
     explicit CParser(Char16* text) : m_read(text), m_write(text) {}
 
-    size_t Run()
+    std::vector<TranslationEntry> Run()
     {
-        size_t entries = 0;
+        std::vector<TranslationEntry> entries;
         while (*m_read != 0)
-            if (TakeLine())
-                ++entries;
+        {
+            const TranslationEntry entry = TakeLine();
+            if (entry.English && *entry.English != 0 && *entry.Translation != 0)
+                entries.push_back(entry);
+        }
         return entries;
     }
 
 private:
-    // Copies one entry; takes back what it has written of a line that isn't one.
-    bool TakeLine()
+    // Both texts are null for a line without a bar.
+    TranslationEntry TakeLine()
     {
-        Char16* const key = m_write;
-        CopyField();
+        Char16* const english = TakeField();
         const bool hasBar = *m_read == kBar;
-        bool complete = false;
-        if (hasBar)
+        if (!hasBar)
         {
-            *m_write++ = 0;
-            ++m_read;
-            const Char16* const value = m_write;
-            CopyField();
-            complete = *key != 0 && value != m_write;
+            SkipLine();
+            return {nullptr, nullptr};
         }
+        *m_write++ = 0;
+        ++m_read;
+        Char16* const translation = TakeField();
         // Only now is there surely room for the zero: it may stand where the line went on.
         SkipLine();
-        if (complete)
-            *m_write++ = 0;
-        else
-            m_write = key;
-        return complete;
+        *m_write++ = 0;
+        return {english, translation};
     }
 
-    // Copies up to an unescaped bar, a line end or the end of the text. What ends a field is looked
-    // for before escapes are read. A backslash as the text's last character is dropped.
-    void CopyField()
+    // Copies up to an unescaped bar, a line end or the end of the text, and returns where the copy
+    // begins. What ends a field is looked for before escapes are read. A backslash as the text's
+    // last character is dropped.
+    Char16* TakeField()
     {
-        for (;; ++m_read)
+        Char16* const begin = m_write;
+        const Char16* read = m_read;
+        Char16* write = m_write;
+        for (;; ++read)
         {
-            Char16 c = *m_read;
+            Char16 c = *read;
             if (IsSpecial(c))
             {
-                if (c != kEscape || *++m_read == 0)
-                    return;
-                c = Unescaped(*m_read);
+                if (c != kEscape || *++read == 0)
+                    break;
+                c = Unescaped(*read);
             }
-            *m_write++ = c;
+            *write++ = c;
         }
+        m_read = read;
+        m_write = write;
+        return begin;
     }
 
     void SkipLine()
@@ -106,13 +111,13 @@ private:
             ++m_read;
     }
 
-    Char16* m_read;
+    const Char16* m_read;
     Char16* m_write;
 };
 
 } // namespace
 
-size_t ParseTranslation(Char16* text, Char16* end)
+std::vector<TranslationEntry> ParseTranslation(Char16* text, Char16* end)
 {
     *end = 0;
     return CParser(text).Run();

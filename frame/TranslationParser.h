@@ -9,7 +9,16 @@
 
 #include "platform/Char16.h"
 
+#include <vector>
+
+// Two zero-terminated texts inside the file's buffer, neither of them empty.
+struct TranslationEntry
+{
+    Char16* English;
+    Char16* Translation;
+};
+
 // Parses the text from `text` up to `end` in place; *end must be writable and becomes zero. Returns
-// how many entries there are: afterwards they stand one behind the other from `text` on, in the
-// file's order, each as key, zero, value, zero. Nothing behind `end` is touched.
-size_t ParseTranslation(Char16* text, Char16* end);
+// the entries in the file's order, duplicates included; they live as long as the buffer. Nothing
+// behind `end` is touched.
+std::vector<TranslationEntry> ParseTranslation(Char16* text, Char16* end);

@@ -1,5 +1,9 @@
 #include "frame/VORegistry.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+
 #include "platform/Memory.h"
 #include "platform/os/Registry.h"
 
@@ -11,6 +15,15 @@ constexpr DWORD kUsualTextBytes = 1024;
 // The usual size, the size that the value turned out to have, and three more for a value that
 // grows between two reads.
 constexpr int kReadAttempts = 5;
+
+// How many characters from here on lie in the same page of memory; at least one, which may reach
+// into the next page.
+size_t UnitsToPageEnd(const wchar_t* text)
+{
+    constexpr uintptr_t kPage = 0x1000;
+    const uintptr_t bytes = kPage - reinterpret_cast<uintptr_t>(text) % kPage;
+    return std::max<size_t>(bytes / sizeof(wchar_t), 1);
+}
 
 // A name may be null, which means the key's unnamed value, but not point to nowhere.
 bool IsBadName(const wchar_t* name)
@@ -34,9 +47,17 @@ std::wstring TextOf(wchar_t* buffer, DWORD bytes)
 
 bool IsReadableString(const wchar_t* text)
 {
-    if (!text || IsBadReadPtr(text, sizeof(wchar_t)))
-        return false;
-    return !IsBadStringPtrW(text, static_cast<UINT_PTR>(-1));
+    while (text)
+    {
+        // Memory is readable page by page, so each page is probed once.
+        const size_t units = UnitsToPageEnd(text);
+        if (IsBadReadPtr(text, units * sizeof(wchar_t)))
+            return false;
+        if (std::wstring_view(text, units).find(L'\0') != std::wstring_view::npos)
+            return true;
+        text += units;
+    }
+    return false;
 }
 
 CVORegistry::CVORegistry(HKEY root, const wchar_t* path, BOOL create, BOOL flushOnClose,

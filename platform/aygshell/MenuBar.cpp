@@ -18,15 +18,23 @@ namespace
 // The input-panel button, in logical pixels.
 constexpr int kSipButtonWidth = 34;
 
-// The press that closes a pop-up by hitting its own key again must not open it anew.
-void SwallowClosingPress(HWND toolbar, int index)
+// Takes a waiting press on the soft key with this index out of the queue.
+void SwallowPress(HWND toolbar, int index, UINT message)
 {
     MSG press;
-    if (!PeekMessageW(&press, toolbar, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_NOREMOVE))
+    if (!PeekMessageW(&press, toolbar, message, message, PM_NOREMOVE))
         return;
     POINT point = PointOf(press.lParam);
     if (SendMessageW(toolbar, TB_HITTEST, 0, reinterpret_cast<LPARAM>(&point)) == index)
-        PeekMessageW(&press, toolbar, WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE);
+        PeekMessageW(&press, toolbar, message, message, PM_REMOVE);
+}
+
+// Ends the pop-up of a bar that goes away. Not every system wakes the menu's loop when its owner
+// is gone before it; a message for the thread does.
+void EndPopup()
+{
+    EndMenu();
+    PostThreadMessageW(GetCurrentThreadId(), WM_CANCELMODE, 0, 0);
 }
 
 } // namespace
@@ -66,6 +74,8 @@ CMenuBar::CMenuBar(HWND window, const SHMENUBARINFO& info, UniqueMenu menu)
 CMenuBar::~CMenuBar()
 {
     SetWindowLongPtrW(m_window, GWLP_USERDATA, 0);
+    if (m_isPopupOpen)
+        EndPopup();
     if (m_hook != nullptr)
         UnhookWindowsHookEx(m_hook);
     if (m_toolbar != nullptr)
@@ -196,11 +206,15 @@ void CMenuBar::ShowPopup(int index, const TBBUTTON& key, HMENU popup)
     const UINT align = (onLeft ? TPM_LEFTALIGN : TPM_RIGHTALIGN) | TPM_BOTTOMALIGN | TPM_VERTICAL;
 
     SendMessageW(toolbar, TB_PRESSBUTTON, id, MAKELPARAM(TRUE, 0));
+    m_isPopupOpen = true;
     TrackPopupMenuEx(popup, align, x, around.rcExclude.top, m_owner, &around);
     if (!IsWindow(toolbar))
         return;
+    m_isPopupOpen = false;
     SendMessageW(toolbar, TB_PRESSBUTTON, id, MAKELPARAM(FALSE, 0));
-    SwallowClosingPress(toolbar, index);
+    // The press that closes a pop-up by hitting its own key again must not open it anew.
+    SwallowPress(toolbar, index, WM_LBUTTONDOWN);
+    SwallowPress(toolbar, index, WM_LBUTTONDBLCLK);
 }
 
 } // namespace shell

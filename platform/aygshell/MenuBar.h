@@ -52,6 +52,7 @@ private:
     HWND m_toolbar = nullptr;
     HWND m_sipButton = nullptr;
     HHOOK m_hook = nullptr;
+    bool m_isPopupOpen = false;
     UniqueMenu m_menu;
     UniqueFont m_font;
 };

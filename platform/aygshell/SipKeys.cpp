@@ -25,16 +25,17 @@ struct Row
 constexpr Row kRows[] = {
     {0, 0, L"1234567890", L"!@#$%^&*()"},
     {1, 0, L"qwertyuiop-", L"QWERTYUIOP_"},
-    {2, 1, L"asdfghjkl", L"ASDFGHJKL"},
-    {3, 2, L"zxcvbnm,.'", L"ZXCVBNM;:\""},
+    {2, 0, L"asdfghjkl", L"ASDFGHJKL"},
+    {3, 4, L"zxcvbnm,.", L"ZXCVBNM;:"},
 };
 
 constexpr SipKey kSpecialKeys[] = {
     {SipAction::Backspace, 0, 0, 0, 20, 22},
-    {SipAction::Enter, 0, 0, 2, 19, 22},
-    {SipAction::Shift, 0, 0, 4, 0, 4},
-    {SipAction::Character, L'/', L'?', 4, 4, 6},
-    {SipAction::Character, L' ', L' ', 4, 6, 18},
+    {SipAction::Enter, 0, 0, 2, 18, 22},
+    {SipAction::Shift, 0, 0, 3, 0, 4},
+    {SipAction::Character, L'\'', L'"', 4, 0, 2},
+    {SipAction::Character, L'/', L'?', 4, 2, 4},
+    {SipAction::Character, L' ', L' ', 4, 4, 18},
     {SipAction::Character, L'=', L'+', 4, 18, 20},
     {SipAction::Character, L'\\', L'|', 4, 20, 22},
 };

@@ -20,7 +20,8 @@ Face FaceOf(const SipKey& key, bool shifted)
     switch (key.Action)
     {
     case SipAction::Backspace:
-        return {L"\x2190"};
+        // The handheld's face has no arrow.
+        return {L"\x00AB"};
     case SipAction::Enter:
         return {L"Enter"};
     case SipAction::Shift:

@@ -17,6 +17,9 @@ constexpr UINT_PTR kPreferenceSubclass = 5;
 // leaves the panel where it is.
 constexpr UINT kFocusMoved = WM_USER + 1;
 
+// To the control itself, after its creation: be invisible whatever the template says.
+constexpr UINT kHide = WM_USER + 2;
+
 // Whether text can be typed into the window: an edit control that isn't read-only.
 bool TakesText(HWND window)
 {
@@ -51,18 +54,17 @@ LRESULT CALLBACK PreferenceProc(HWND preference, UINT message, WPARAM wParam, LP
     case WM_CREATE:
         SetWindowSubclass(GetParent(preference), DialogProc, kPreferenceSubclass,
                           reinterpret_cast<DWORD_PTR>(preference));
+        PostMessageW(preference, kHide, 0, 0);
         break;
+    case kHide:
+        ShowWindow(preference, SW_HIDE);
+        return 0;
     case kFocusMoved:
         FollowFocus(preference);
         return 0;
     case WM_DESTROY:
         RemoveWindowSubclass(GetParent(preference), DialogProc, kPreferenceSubclass);
         SetInputPanel(false);
-        break;
-    case WM_NCCREATE:
-        // Invisible whatever the template says.
-        SetWindowLongPtrW(preference, GWL_STYLE,
-                          GetWindowLongPtrW(preference, GWL_STYLE) & ~WS_VISIBLE);
         break;
     }
     return DefWindowProcW(preference, message, wParam, lParam);

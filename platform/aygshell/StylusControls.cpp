@@ -114,24 +114,20 @@ LRESULT OnRightPress(HWND control, LPARAM lParam)
     return 0;
 }
 
-// Whether the message belongs to the keyboard's way to the context menu, which is Apps or
-// Shift+F10; asks for the menu at the right moment. Systems differ in what they make of these
-// keys by themselves, so none of the messages goes on to them.
+// Whether the message is of Shift+F10, which asks for the context menu like the Apps key. Systems
+// differ in what they make of it by themselves, so it doesn't go on to them; the Apps key gives one
+// WM_CONTEXTMENU everywhere.
 bool TakeMenuKey(HWND control, UINT message, WPARAM key, LPARAM lParam)
 {
-    const bool first = (lParam & kRepeated) == 0;
-    if (message == WM_KEYUP && key == VK_APPS)
-    {
+    if (key != VK_F10)
+        return false;
+    if (message == WM_SYSKEYUP)
+        return true;
+    if (GetKeyState(VK_SHIFT) >= 0)
+        return false;
+    if ((lParam & kRepeated) == 0)
         RequestMenu(control, kNoPoint);
-        return true;
-    }
-    if (message == WM_SYSKEYDOWN && key == VK_F10 && GetKeyState(VK_SHIFT) < 0)
-    {
-        if (first)
-            RequestMenu(control, kNoPoint);
-        return true;
-    }
-    return message == WM_SYSKEYUP && key == VK_F10;
+    return true;
 }
 
 // Enter belongs to trees, not to the dialog's default button.
@@ -159,7 +155,6 @@ LRESULT CALLBACK StylusProc(HWND control, UINT message, WPARAM wParam, LPARAM lP
     case WM_RBUTTONUP:
         // Its default is a second WM_CONTEXTMENU.
         return 0;
-    case WM_KEYUP:
     case WM_SYSKEYDOWN:
     case WM_SYSKEYUP:
         if (TakeMenuKey(control, message, wParam, lParam))

@@ -1,7 +1,7 @@
 // Adding and removing the user's items, compared value by value.
 #include "menu/MenuKeys.h"
 #include "platform/os/Registry.h"
-#include "tests/menu/MenuFixture.h"
+#include "tests/menu/support/MenuFixture.h"
 
 namespace
 {

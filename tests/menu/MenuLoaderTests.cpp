@@ -1,8 +1,10 @@
 // Loading and merging the three registry layers.
 #include "menu/MenuLoader.h"
 
+#include "frame/Localizer.h"
 #include "menu/MenuKeys.h"
-#include "tests/menu/MenuFixture.h"
+#include "tests/menu/support/MenuFixture.h"
+#include "tests/support/TranslationFixture.h"
 
 namespace
 {
@@ -77,6 +79,65 @@ TEST_F(MenuLoader, LoadingAgainReplacesItemsAndIds)
     EXPECT_FALSE(tree.Find(oldId));
     EXPECT_EQ(3u, tree.Items.Count());
     EXPECT_EQ(L"A B", ChildTexts(tree.Root));
+}
+
+// Translation.
+
+class MenuLoaderTranslation : public MenuTest
+{
+protected:
+    MenuLoaderTranslation()
+    {
+        EXPECT_TRUE(GetLocalizer().LoadFile(
+            WriteTranslation(m_folder, L"Games|Spiele\r\nTools|Werkzeug\r\nMine|Meins").c_str()));
+    }
+    ~MenuLoaderTranslation() override { GetLocalizer().Clear(); }
+
+    CTempFolder m_folder;
+};
+
+TEST_F(MenuLoaderTranslation, TextsOfBothBuiltInLayersAreTranslated)
+{
+    AddProductMenu(L"\\Games", L"Games", 0);
+    SetText(Shared(L"\\Tools"), kTextValue, L"Tools");
+    SetDword(Custom(L"\\Games"), kInactiveValue, 1);
+    const CMenuTree tree = LoadedTree();
+    EXPECT_EQ(L"Spiele Werkzeug", ChildTexts(tree.Root));
+    EXPECT_TRUE(tree.Root->Children[0]->Inactive);
+    EXPECT_EQ(0, tree.Root->Children[0]->Index);
+    EXPECT_EQ(L"Games", Text(Product(L"\\Games"), kTextValue));
+}
+
+TEST_F(MenuLoaderTranslation, ATextWithoutTranslationStaysEnglish)
+{
+    AddProductMenu(L"\\Games", L"games", 0);
+    EXPECT_EQ(L"games", ChildTexts(LoadedTree().Root));
+}
+
+TEST_F(MenuLoaderTranslation, TextsOfTheCustomisationLayerAreTakenAsStoredOnEveryLevel)
+{
+    AddUserItem(L"\\User 1", L"Mine", 0);
+    AddUserItem(L"\\User 1\\User 2", L"Games", 0);
+    SetText(Custom(L"\\User 1\\Other"), kTextValue, L"Tools");
+    const CMenuTree tree = LoadedTree();
+    EXPECT_EQ(L"Mine", ChildTexts(tree.Root));
+    EXPECT_EQ(L"Games Tools", ChildTexts(ItemOf(tree, L"Mine")));
+}
+
+TEST_F(MenuLoaderTranslation, SiblingsAreSortedByTheTranslatedText)
+{
+    SetText(Product(L"\\a"), kTextValue, L"Games");
+    SetText(Product(L"\\b"), kTextValue, L"Radio");
+    EXPECT_EQ(L"Radio Spiele", ChildTexts(LoadedTree().Root));
+}
+
+TEST_F(MenuLoaderTranslation, ABuiltInTextLosesWhatTheTranslatorsBufferCannotHold)
+{
+    AddProductMenu(L"\\Games", std::wstring(1100, L'x'), 0);
+    AddUserItem(L"\\User 1", std::wstring(1100, L'y'), 0);
+    const CMenuTree tree = LoadedTree();
+    EXPECT_EQ(1023u, tree.Root->Children.at(0)->Text.size());
+    EXPECT_EQ(1100u, tree.Root->Children.at(1)->Text.size());
 }
 
 // The shared component's layer.

@@ -2,7 +2,7 @@
 #include "menu/MenuPaths.h"
 
 #include "menu/MenuKeys.h"
-#include "tests/menu/MenuFixture.h"
+#include "tests/menu/support/MenuFixture.h"
 
 namespace
 {
@@ -10,6 +10,16 @@ namespace
 const std::wstring kProduct = kMenuRootPath;
 const std::wstring kShared = kSharedRootPath;
 const std::wstring kCustom = kCustomizeRootPath;
+
+TEST(MenuPaths, TheLayersAndTheRatingsLieWhereTheShellLooksForThem)
+{
+    EXPECT_EQ(L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Menu\\Root", kProduct);
+    EXPECT_EQ(L"\\SOFTWARE\\Orvane\\Shared\\Tav Menu\\1.0", kShared);
+    EXPECT_EQ(L"\\SOFTWARE\\Orvane\\Shared\\Tav Menu\\Customize", kCustom);
+    EXPECT_EQ(kProduct + L"\\Settings", kSettingsBranchPath);
+    EXPECT_EQ(kProduct + L"\\Programs", kProgramsBranchPath);
+    EXPECT_EQ(std::wstring(L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Ratings"), kRatingsRootPath);
+}
 
 TEST(MenuPaths, ProductAndSharedPathsMirrorIntoTheCustomisationLayer)
 {

@@ -6,7 +6,7 @@
 
 #include "menu/MenuKeys.h"
 #include "platform/os/Registry.h"
-#include "tests/menu/MenuFixture.h"
+#include "tests/menu/support/MenuFixture.h"
 
 namespace
 {

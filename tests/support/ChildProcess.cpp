@@ -65,7 +65,7 @@ CChildProcess::CChildProcess(const wchar_t* entry, const std::wstring& argument)
 {
     wchar_t program[MAX_PATH];
     GetModuleFileNameW(nullptr, program, MAX_PATH);
-    std::wstring commandLine = std::wstring(L"\"") + program + L"\"";
+    std::wstring commandLine = std::wstring(L"\"") + program + L"\" --gtest_brief=1";
 
     SetEnvironmentVariableW(kEntryVariable, entry);
     SetEnvironmentVariableW(kArgumentVariable, argument.c_str());

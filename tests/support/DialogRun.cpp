@@ -41,8 +41,11 @@ BOOL CALLBACK FindMenu(HWND window, LPARAM found)
 
 BOOL CALLBACK CloseDialog(HWND window, LPARAM /*unused*/)
 {
-    if (HasClass(window, L"#32770"))
-        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    if (!HasClass(window, L"#32770"))
+        return TRUE;
+    // Closes a pop-up menu that is open.
+    PostMessageW(window, WM_CANCELMODE, 0, 0);
+    PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
     return TRUE;
 }
 
@@ -143,12 +146,14 @@ HWND CDialogRun::WaitForDialog(const std::wstring& title)
 HWND CDialogRun::WaitForPopup()
 {
     HWND menu = nullptr;
-    EXPECT_TRUE(WaitUntil(
-        [&]
-        {
-            EnumThreadWindows(m_threadId, FindMenu, reinterpret_cast<LPARAM>(&menu));
-            return menu != nullptr;
-        }));
+    EXPECT_TRUE(WaitUntil([&] { return (menu = OpenPopup()) != nullptr; })) << "no pop-up menu";
+    return menu;
+}
+
+HWND CDialogRun::OpenPopup() const
+{
+    HWND menu = nullptr;
+    EnumThreadWindows(m_threadId, FindMenu, reinterpret_cast<LPARAM>(&menu));
     return menu;
 }
 
@@ -185,6 +190,12 @@ void PressKey(WORD virtualKey)
 {
     INPUT inputs[] = {KeyInput(virtualKey, 0), KeyInput(virtualKey, KEYEVENTF_KEYUP)};
     SendInput(2, inputs, sizeof(INPUT));
+}
+
+void HoldKey(WORD virtualKey, bool down)
+{
+    INPUT input = KeyInput(virtualKey, down ? 0 : KEYEVENTF_KEYUP);
+    SendInput(1, &input, sizeof(INPUT));
 }
 
 void TapScreen(POINT screen)

@@ -26,6 +26,8 @@ public:
     HWND InnermostDialog() const;
     // Waits until a pop-up menu is open and returns its window; null after 10 seconds.
     HWND WaitForPopup();
+    // The pop-up menu that is open now; null when there is none.
+    HWND OpenPopup() const;
     // Waits for the call to return; false after 20 seconds.
     bool WaitForEnd();
     bool HasEnded() const;
@@ -64,5 +66,7 @@ void PostCommand(HWND dialog, UINT id);
 
 // Presses and releases a key in whichever window has the focus.
 void PressKey(WORD virtualKey);
+// Presses a key without releasing it, or releases it.
+void HoldKey(WORD virtualKey, bool down);
 // Taps the screen with the stylus.
 void TapScreen(POINT screen);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <set>
+#include <sstream>
 
 namespace
 {
@@ -87,6 +89,15 @@ void DumpKey(HKEY key, const std::wstring& path, std::wstring& lines)
         COpenKey child(key, name);
         DumpKey(child.get(), path + L"\\" + name, lines);
     }
+}
+
+std::set<std::wstring> LinesOf(const std::wstring& dump)
+{
+    std::wistringstream stream(dump);
+    std::set<std::wstring> lines;
+    for (std::wstring line; std::getline(stream, line);)
+        lines.insert(line);
+    return lines;
 }
 
 } // namespace
@@ -191,6 +202,20 @@ std::wstring CRegistrySandbox::Dump(const wchar_t* path) const
     if (key.get())
         DumpKey(key.get(), L"", lines);
     return lines;
+}
+
+std::vector<std::wstring> DumpDifference(const std::wstring& before, const std::wstring& after)
+{
+    const std::set<std::wstring> old = LinesOf(before);
+    const std::set<std::wstring> now = LinesOf(after);
+    std::vector<std::wstring> difference;
+    for (const std::wstring& line : now)
+        if (old.count(line) == 0)
+            difference.push_back(L"+" + line);
+    for (const std::wstring& line : old)
+        if (now.count(line) == 0)
+            difference.push_back(L"-" + line);
+    return difference;
 }
 
 bool JoinRegistrySandbox(HKEY root, const std::wstring& backingPath)

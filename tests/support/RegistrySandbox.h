@@ -4,6 +4,7 @@
 #include "platform/Win.h"
 
 #include <string>
+#include <vector>
 
 // Redirects HKEY_LOCAL_MACHINE (or another root) of this process to an empty key and deletes that
 // key with all its contents at the end. The real root is never touched.
@@ -42,6 +43,10 @@ private:
     HKEY m_key = nullptr;
     std::wstring m_path;
 };
+
+// What is different between two dumps: lines that are only in the second one behind "+", lines that
+// are only in the first one behind "-", sorted.
+std::vector<std::wstring> DumpDifference(const std::wstring& before, const std::wstring& after);
 
 // Maps `root` of this process onto the key that another process's sandbox made. Returns success.
 bool JoinRegistrySandbox(HKEY root, const std::wstring& backingPath);

@@ -141,3 +141,25 @@ POINT CTreeDriver::LabelCentreOnScreen(HTREEITEM node) const
     ClientToScreen(m_tree, &point);
     return point;
 }
+
+POINT CTreeDriver::PointOn(HTREEITEM node, UINT flag) const
+{
+    RECT client = {};
+    GetClientRect(m_tree, &client);
+    TVHITTESTINFO hit = {};
+    hit.pt.y = LabelCentre(node).y;
+    for (hit.pt.x = 0; hit.pt.x < client.right; ++hit.pt.x)
+    {
+        SendMessageW(m_tree, TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        if (hit.hItem == node && (hit.flags & flag))
+            return hit.pt;
+    }
+    return {-1, -1};
+}
+
+bool CTreeDriver::IsInView(HTREEITEM node) const
+{
+    RECT client = {};
+    GetClientRect(m_tree, &client);
+    return PtInRect(&client, LabelCentre(node)) != FALSE;
+}

@@ -34,6 +34,11 @@ public:
     // Centre of a node's label in client and in screen coordinates.
     POINT LabelCentre(HTREEITEM node) const;
     POINT LabelCentreOnScreen(HTREEITEM node) const;
+    // A point, in client coordinates, in the node's row of which a hit test says `flag` (TVHT_...);
+    // (-1, -1) when there is none.
+    POINT PointOn(HTREEITEM node, UINT flag) const;
+    // Whether the node's label is within the tree's client area.
+    bool IsInView(HTREEITEM node) const;
 
 private:
     HTREEITEM FindChild(HTREEITEM parent, const std::wstring& label) const;

@@ -17,6 +17,16 @@ LOGFONTW Describe(HFONT font)
     return info;
 }
 
+// Nothing is translated unless a case says so.
+class DialogFonts : public testing::Test
+{
+protected:
+    ~DialogFonts() override { GetLocalizer().Clear(); }
+};
+class DialogFontsGeometry : public DialogFonts
+{
+};
+
 void Translate(const std::wstring& entries)
 {
     const CTempFolder folder;
@@ -25,7 +35,7 @@ void Translate(const std::wstring& entries)
 
 } // namespace
 
-TEST(DialogFontsGeometry, AreTahomaOfThirteenLogicalPixels)
+TEST_F(DialogFontsGeometry, AreTahomaOfThirteenLogicalPixels)
 {
     const LOGFONTW normal = Describe(CDialogFonts::Instance().Get(false));
     EXPECT_STREQ(L"Tahoma", normal.lfFaceName);
@@ -37,7 +47,7 @@ TEST(DialogFontsGeometry, AreTahomaOfThirteenLogicalPixels)
     EXPECT_EQ(700, bold.lfWeight);
 }
 
-TEST(DialogFonts, AreMadeOnceAndKept)
+TEST_F(DialogFonts, AreMadeOnceAndKept)
 {
     const HFONT normal = CDialogFonts::Instance().Get(false);
     const HFONT bold = CDialogFonts::Instance().Get(true);
@@ -46,7 +56,7 @@ TEST(DialogFonts, AreMadeOnceAndKept)
     EXPECT_EQ(bold, CDialogFonts::Instance().Get(true));
 }
 
-TEST(DialogFonts, AllOtherFieldsAreZero)
+TEST_F(DialogFonts, AllOtherFieldsAreZero)
 {
     LOGFONTW expected = {};
     expected.lfHeight = 20;
@@ -59,7 +69,7 @@ TEST(DialogFonts, AllOtherFieldsAreZero)
     EXPECT_STREQ(L"Tahoma", actual.lfFaceName);
 }
 
-TEST(DialogFontsGeometry, ALanguageWithIntricateGlyphsGetsLargerFontsThatAreNeverBold)
+TEST_F(DialogFontsGeometry, ALanguageWithIntricateGlyphsGetsLargerFontsThatAreNeverBold)
 {
     Translate(L"_LARGE_SMALL_FONTS|1\n");
     const LOGFONTW normal = Describe(CDialogFonts::Instance().Get(false));
@@ -70,7 +80,7 @@ TEST(DialogFontsGeometry, ALanguageWithIntricateGlyphsGetsLargerFontsThatAreNeve
     EXPECT_EQ(400, bold.lfWeight);
 }
 
-TEST(DialogFonts, AnyOtherValueOfTheSwitchChangesNothing)
+TEST_F(DialogFonts, AnyOtherValueOfTheSwitchChangesNothing)
 {
     for (const wchar_t* value : {L"0", L"11", L"yes", L" 1"})
     {
@@ -81,7 +91,7 @@ TEST(DialogFonts, AnyOtherValueOfTheSwitchChangesNothing)
     }
 }
 
-TEST(DialogFonts, TheExactFontIgnoresTheSwitch)
+TEST_F(DialogFonts, TheExactFontIgnoresTheSwitch)
 {
     Translate(L"_LARGE_SMALL_FONTS|1\n");
     const UniqueFont font(CreateFontExactly(L"Tahoma", 13, 700, 0));

@@ -64,8 +64,8 @@ std::string Walk(const Bytes& bytes, int most = 1000)
 
 TEST(DialogInitRecords, AreReadInOrderUpToTheControlZero)
 {
-    EXPECT_EQ("7:abc 8:de ", Walk(Record(7, "abc") + Record(8, "de") + Bytes{0, 0} +
-                                  Record(9, "behind")));
+    EXPECT_EQ("7:abc 8:de ",
+              Walk(Record(7, "abc") + Record(8, "de") + Bytes{0, 0} + Record(9, "behind")));
 }
 
 TEST(DialogInitRecords, ARecordKeepsItsMessage)

@@ -73,7 +73,10 @@ public:
         Paint();
     }
 
-    void Paint() { RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); }
+    void Paint()
+    {
+        RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    }
 
     COLORREF Pixel(int x, int y) const
     {
@@ -109,8 +112,8 @@ std::vector<LOGFONTW> g_fonts;
 HFONT WINAPI RecordFont(const LOGFONTW* font)
 {
     g_fonts.push_back(*font);
-    return CreateFontW(font->lfHeight, 0, 0, 0, font->lfWeight, 0, 0, 0, font->lfCharSet, 0, 0, 0, 0,
-                       font->lfFaceName);
+    return CreateFontW(font->lfHeight, 0, 0, 0, font->lfWeight, 0, 0, 0, font->lfCharSet, 0, 0, 0,
+                       0, font->lfFaceName);
 }
 
 } // namespace
@@ -229,6 +232,7 @@ TEST(TitleBandGeometry, ItsFontIsBoldTahomaOfThirteenPixelsInEveryLanguage)
     EXPECT_EQ(700, g_fonts[0].lfWeight);
     EXPECT_STREQ(L"Tahoma", g_fonts[0].lfFaceName);
     EXPECT_EQ(0, g_fonts[0].lfCharSet);
+    GetLocalizer().Clear();
 }
 
 TEST(TitleBand, TakesAtMost255CharactersOfTheTitle)

@@ -1,4 +1,4 @@
-#include "tests/menu/MenuFixture.h"
+#include "tests/menu/support/MenuFixture.h"
 
 #include "menu/MenuKeys.h"
 #include "platform/os/Registry.h"

@@ -1,0 +1,138 @@
+// Places and sizes on the screen, on every size of screen.
+#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/support/Pixels.h"
+#include "tests/support/Wait.h"
+
+namespace
+{
+
+class DialogGeometry : public EditorFixture
+{
+protected:
+    static RECT RectOf(HWND window)
+    {
+        RECT rect = {};
+        GetWindowRect(window, &rect);
+        return rect;
+    }
+    // The colour on the screen, once the system has brought it there.
+    static bool TurnsInto(COLORREF expected, int x, int y)
+    {
+        return WaitUntil(
+            [=]
+            {
+                const HDC screen = GetDC(nullptr);
+                const COLORREF colour = GetPixel(screen, x, y);
+                ReleaseDC(nullptr, screen);
+                return colour == expected;
+            });
+    }
+    static std::vector<HWND> ControlsOf(HWND window)
+    {
+        std::vector<HWND> controls;
+        for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+            controls.push_back(child);
+        return controls;
+    }
+    // The width that a control's text takes in its font.
+    static int TextWidthOf(HWND control)
+    {
+        const std::wstring text = TextOf(control);
+        const HDC dc = GetDC(control);
+        const HGDIOBJ old =
+            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+        SIZE size = {};
+        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+        SelectObject(dc, old);
+        ReleaseDC(control, dc);
+        return size.cx;
+    }
+
+    // Checks that a dialog has its title band and ends where its soft keys begin.
+    static void ExpectFullScreen(HWND window)
+    {
+        const RECT own = RectOf(window);
+        EXPECT_EQ(0, own.left);
+        EXPECT_EQ(0, own.top);
+        EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), own.right);
+        EXPECT_EQ(RectOf(GetParent(SoftKeyBar(window))).top, own.bottom);
+        EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), RectOf(GetParent(SoftKeyBar(window))).bottom);
+        const int right = GetSystemMetrics(SM_CXSCREEN) - 1;
+        EXPECT_TRUE(TurnsInto(GetSysColor(COLOR_WINDOW), 3, 3));
+        EXPECT_TRUE(TurnsInto(GetSysColor(COLOR_WINDOW), right, Px(23) - 1));
+        EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), 3, Px(23)));
+        EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), right, Px(24) - 1));
+    }
+};
+
+} // namespace
+
+TEST_F(DialogGeometry, TheEditorFillsTheScreenAboveItsSoftKeys)
+{
+    Open();
+    ExpectFullScreen(dialog);
+}
+
+TEST_F(DialogGeometry, TheTreeFillsWhatTheTitleBandLeaves)
+{
+    Open();
+    const RECT rect = RectOf(tree.Window());
+    const RECT own = RectOf(dialog);
+    EXPECT_EQ(0, rect.left);
+    EXPECT_EQ(own.right, rect.right);
+    EXPECT_EQ(own.bottom, rect.bottom);
+    // Below the line, as close as dialog units can say.
+    EXPECT_GE(rect.top, Px(24));
+    EXPECT_LE(rect.top, Px(24) + Px(2));
+}
+
+TEST_F(DialogGeometry, MenuOptionsFillsTheScreenAboveItsSoftKeys)
+{
+    Open();
+    ExpectFullScreen(OpenOptions(L"Programs", L"Menu Options ('Programs')"));
+}
+
+TEST_F(DialogGeometry, TheControlsOfMenuOptionsStandInTheirPlaceWithoutOverlap)
+{
+    Open();
+    const HWND options = OpenOptions(L"Programs", L"Menu Options ('Programs')");
+    const RECT own = RectOf(options);
+    const std::vector<HWND> controls = ControlsOf(options);
+    ASSERT_EQ(6u, controls.size());
+    for (size_t i = 0; i < controls.size(); ++i)
+    {
+        const RECT rect = RectOf(controls[i]);
+        EXPECT_GE(rect.left, own.left);
+        EXPECT_GE(rect.top, own.top + Px(24));
+        EXPECT_LE(rect.right, own.right);
+        EXPECT_LE(rect.bottom, own.bottom);
+        for (size_t j = i + 1; j < controls.size(); ++j)
+        {
+            const RECT other = RectOf(controls[j]);
+            RECT common = {};
+            EXPECT_FALSE(IntersectRect(&common, &rect, &other)) << i << " and " << j;
+        }
+    }
+}
+
+TEST_F(DialogGeometry, TheTextsOfMenuOptionsFitIntoTheirControls)
+{
+    Open();
+    const HWND options = OpenOptions(L"Programs", L"Menu Options ('Programs')");
+    // What the box of a check box or radio button takes.
+    const int box = GetSystemMetrics(SM_CXMENUCHECK) + Px(4);
+    for (const HWND control : ControlsOf(options))
+    {
+        const RECT rect = RectOf(control);
+        const int left = GetDlgCtrlID(control) < 214 ? box : 0;
+        EXPECT_LE(TextWidthOf(control) + left, rect.right - rect.left) << GetDlgCtrlID(control);
+    }
+}
+
+TEST_F(DialogGeometry, RadioButtonsAndCheckBoxesStandOnEvenRows)
+{
+    Open();
+    const HWND options = OpenOptions(L"Programs", L"Menu Options ('Programs')");
+    for (const int id : {210, 211, 212, 213})
+        EXPECT_EQ(0, RectOf(GetDlgItem(options, id)).top % 2) << id;
+}
