@@ -107,7 +107,7 @@ public:
             keys.Shared.Open(HKEY_LOCAL_MACHINE, SharedPath(item.KeyPath));
         if (!IsCustomizePath(item.KeyPath))
             keys.Customize.Open(HKEY_LOCAL_MACHINE, MirrorPath(item.KeyPath));
-        LoadMenu(item, keys, 0);
+        LoadLevel(item, keys, 0);
     }
 
 private:
@@ -116,7 +116,7 @@ private:
         return !m_includeSettings && os::EqualNoCase(item.KeyPath, kSettingsBranchPath);
     }
 
-    void LoadMenu(CMenuItem& item, const LayerKeys& keys, uint32_t depth)
+    void LoadLevel(CMenuItem& item, const LayerKeys& keys, uint32_t depth)
     {
         if (depth >= kMaxMenuDepth)
             return;
@@ -153,7 +153,7 @@ private:
         if (child.Customised.size() > 1 ||
             (!child.Customised.empty() && *child.Customised.front() != *child.Name))
             below.Customize.OpenBelow(keys.Customize, *child.Name);
-        LoadMenu(*item, below, depth);
+        LoadLevel(*item, below, depth);
     }
 
     // The first user's key of that name becomes the item; what follows it customises the item.
@@ -175,7 +175,7 @@ private:
         CMenuItem* const item = AppendItem(parent, ChildPath(MirrorPath(parent.KeyPath), name),
                                            below.Own, overrides, 0);
         if (item)
-            LoadMenu(*item, below, depth);
+            LoadLevel(*item, below, depth);
     }
 
     // Returns the new item, which its parent owns, or null when there are too many.
