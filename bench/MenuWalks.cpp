@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <unordered_map>
+#include <utility>
 
 #include "menu/MenuKeys.h"
 #include "platform/os/Registry.h"

@@ -3,6 +3,7 @@
 #include "frame/LocalizerMap.h"
 #include "frame/TranslationParser.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
@@ -80,15 +81,13 @@ void Require(bool condition, const char* what)
     std::abort();
 }
 
-void CheckPairs(const Char16* pairs, size_t count, const Entries& expected)
+void CheckEntries(const std::vector<TranslationEntry>& entries, const Entries& expected)
 {
-    Require(count == expected.size(), "number of entries");
-    for (const auto& [key, value] : expected)
+    Require(entries.size() == expected.size(), "number of entries");
+    for (size_t i = 0; i < entries.size(); ++i)
     {
-        Require(key == pairs, "key");
-        pairs += key.size() + 1;
-        Require(value == pairs, "value");
-        pairs += value.size() + 1;
+        Require(expected[i].first == entries[i].English, "key");
+        Require(expected[i].second == entries[i].Translation, "value");
     }
 }
 
@@ -128,11 +127,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 
     std::vector<Char16> buffer(text.begin(), text.end());
     buffer.push_back(u'|');
-    const size_t count = ParseTranslation(buffer.data(), buffer.data() + text.size());
-    CheckPairs(buffer.data(), count, expected);
+    const auto entries = ParseTranslation(buffer.data(), buffer.data() + text.size());
+    CheckEntries(entries, expected);
 
     CLocalizerMap map;
-    map.StorePairs(buffer.data(), count);
+    map.StoreAll(entries);
     CheckMap(map, expected);
     return 0;
 }

@@ -16,17 +16,10 @@ inline Pairs Parsed(StringView16 text)
 {
     std::vector<Char16> buffer(text.begin(), text.end());
     buffer.push_back('x');
-    const size_t count = ParseTranslation(buffer.data(), buffer.data() + text.size());
     Pairs pairs;
-    const Char16* position = buffer.data();
-    for (size_t i = 0; i < count; ++i)
-    {
-        const String16 key(position);
-        position += key.size() + 1;
-        const String16 value(position);
-        position += value.size() + 1;
-        pairs.emplace_back(key, value);
-    }
+    for (const TranslationEntry& entry :
+         ParseTranslation(buffer.data(), buffer.data() + text.size()))
+        pairs.emplace_back(entry.English, entry.Translation);
     return pairs;
 }
 
@@ -38,7 +31,7 @@ public:
     {
         m_buffer.push_back(0);
         Char16* const end = m_buffer.data() + text.size();
-        Map.StorePairs(m_buffer.data(), ParseTranslation(m_buffer.data(), end));
+        Map.StoreAll(ParseTranslation(m_buffer.data(), end));
     }
 
     // The translation, empty when there is none.
