@@ -14,9 +14,6 @@
 namespace
 {
 
-// No menu comes near it: it ends a load in which several links fold the tree into itself.
-constexpr uint32_t kMostItems = 1000000;
-
 // A key of one layer that is open for as long as the menu is read, or isn't there.
 class CLayerKey
 {
@@ -149,9 +146,9 @@ private:
             return;
         if (child.HasShared)
             below.Shared.OpenBelow(keys.Shared, *child.Name);
-        // The values may have come from keys of another spelling.
-        if (child.Customised.size() > 1 ||
-            (!child.Customised.empty() && *child.Customised.front() != *child.Name))
+        // The values may have come from another key, whose name only folds to the same.
+        if (child.HasCustomised &&
+            (child.Customised.size() != 1 || *child.Customised.front() != *child.Name))
             below.Customize.OpenBelow(keys.Customize, *child.Name);
         LoadLevel(*item, below, depth);
     }
@@ -182,7 +179,7 @@ private:
     CMenuItem* AppendItem(CMenuItem& parent, std::wstring keyPath, CLayerKey& key,
                           const Overrides& overrides, DWORD indexOffset)
     {
-        if (m_items == kMostItems)
+        if (m_items == kMostMenuItems)
             return nullptr;
         ++m_items;
         const CMenuItemPtr item(new CMenuItem(&parent));

@@ -30,21 +30,32 @@ struct FoldedEqual
     }
 };
 
-// Finds the last child of a name, as a search from the back would.
+// Finds the children of a name. Several share one only if the registry tells letters apart that
+// fold to the same.
 class CChildIndex
 {
 public:
     explicit CChildIndex(std::vector<MergedChild>& children) : m_children(children) {}
 
-    MergedChild* Find(const std::wstring& name) const
+    // Sets `flag` of all children of that name and returns the last one, as a search from the back
+    // would find it, or null.
+    MergedChild* Mark(const std::wstring& name, bool MergedChild::*flag) const
     {
-        const auto found = m_places.find(name);
-        return found == m_places.end() ? nullptr : &m_children[found->second];
+        MergedChild* last = nullptr;
+        const auto places = m_places.equal_range(name);
+        for (auto place = places.first; place != places.second; ++place)
+        {
+            MergedChild* const child = &m_children[place->second];
+            child->*flag = true;
+            if (!last || child > last)
+                last = child;
+        }
+        return last;
     }
     void Append(const std::wstring& name, MenuLayer layer)
     {
-        m_places.insert_or_assign(name, m_children.size());
-        m_children.push_back({&name, layer, false, {}});
+        m_places.emplace(name, m_children.size());
+        m_children.push_back({&name, layer});
     }
     void Reserve(size_t count)
     {
@@ -54,7 +65,7 @@ public:
 
 private:
     std::vector<MergedChild>& m_children;
-    std::unordered_map<std::wstring_view, size_t, FoldedHash, FoldedEqual> m_places;
+    std::unordered_multimap<std::wstring_view, size_t, FoldedHash, FoldedEqual> m_places;
 };
 
 } // namespace
@@ -67,7 +78,7 @@ std::vector<MergedChild> MergeLayers(const KeyNames& own, const KeyNames& shared
     {
         children.reserve(own.size());
         for (const std::wstring& name : own)
-            children.push_back({&name, MenuLayer::Own, false, {}});
+            children.push_back({&name, MenuLayer::Own});
         return children;
     }
 
@@ -76,15 +87,11 @@ std::vector<MergedChild> MergeLayers(const KeyNames& own, const KeyNames& shared
     for (const std::wstring& name : own)
         index.Append(name, MenuLayer::Own);
     for (const std::wstring& name : shared)
-    {
-        if (MergedChild* const child = index.Find(name))
-            child->HasShared = true;
-        else
+        if (!index.Mark(name, &MergedChild::HasShared))
             index.Append(name, MenuLayer::Shared);
-    }
     for (const std::wstring& name : customised)
     {
-        if (MergedChild* const child = index.Find(name))
+        if (MergedChild* const child = index.Mark(name, &MergedChild::HasCustomised))
             child->Customised.push_back(&name);
         else
             index.Append(name, MenuLayer::Customize);

@@ -20,10 +20,11 @@ struct MergedChild
     const std::wstring* Name;
     // Where the child's own key is. A Customize child comes to be only if its key is a user's.
     MenuLayer Layer;
-    // The shared component has a key of that name, too; only its children count.
+    // The layer may have a key of that name, too, where more of the child's children are.
     bool HasShared = false;
+    bool HasCustomised = false;
     // The customisation subkeys that match the child, in order; a later one overrules an earlier.
-    std::vector<const std::wstring*> Customised;
+    std::vector<const std::wstring*> Customised = {};
 };
 
 // Takes the subkey names of one menu in registry order and gives its children in the order in which

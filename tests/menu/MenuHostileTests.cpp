@@ -3,7 +3,9 @@
 #include "platform/Win.h"
 
 #include <algorithm>
+#include <atomic>
 #include <random>
+#include <thread>
 #include <vector>
 
 #include "menu/MenuItemStore.h"
@@ -96,6 +98,14 @@ TEST_F(MenuHostile, ALinkToAnAncestorEndsAtTheCap)
     AddProductMenu(L"\\Games", L"Games", 0);
     CreateLink(Product(L"\\Games\\Loop"), Product(L""));
     EXPECT_EQ(kMaxMenuDepth, DeepestBelow(LoadedTree().Root));
+}
+
+TEST_F(MenuHostile, LinksThatMultiplyTheMenuEndAtTheMostItems)
+{
+    CreateKey(Product(L"\\Games"));
+    for (const wchar_t* const name : {L"\\Left", L"\\Right"})
+        CreateLink(Product(L"\\Games") + name, Product(L"\\Games"));
+    EXPECT_EQ(kMostMenuItems + 1, LoadedTree().Items.Count());
 }
 
 TEST_F(MenuHostile, ALinkThatLeadsNowhereIsAnEmptyItem)
@@ -286,35 +296,28 @@ TEST_F(MenuHostile, APathThatOnlyBeginsLikeTheProductRootIsHandledByTheSameRule)
 
 TEST_F(MenuHostile, KeysThatVanishDuringALoadLeaveDefaults)
 {
-    // Another process deletes and creates keys as fast as it can.
+    // Somebody else deletes and creates keys as fast as possible.
     AddProductMenu(L"\\Games", L"Games", 0);
     AddUserItem(L"\\User 1", L"Mine", 0);
-    struct CWork
-    {
-        std::wstring menu, custom;
-        volatile bool stop = false;
-    } work = {Product(L"\\Games"), Custom(L"\\User 1"), false};
-    const auto churn = [](void* parameter) -> DWORD
-    {
-        auto& shared = *static_cast<CWork*>(parameter);
-        while (!shared.stop)
-            for (const std::wstring* const path : {&shared.menu, &shared.custom})
-            {
-                os::DeleteKeyTree(HKEY_LOCAL_MACHINE, path->c_str());
-                HKEY key = nullptr;
-                DWORD disposition = 0;
-                os::CreateKey(HKEY_LOCAL_MACHINE, (*path + L"\\Sub").c_str(), 0, &key,
-                              &disposition);
-                os::CloseKey(key);
-            }
-        return 0;
-    };
-    const HANDLE thread = CreateThread(nullptr, 0, churn, &work, 0, nullptr);
+    std::atomic<bool> stop{false};
+    std::thread other(
+        [&stop]
+        {
+            while (!stop)
+                for (const std::wstring& path : {Product(L"\\Games"), Custom(L"\\User 1")})
+                {
+                    os::DeleteKeyTree(HKEY_LOCAL_MACHINE, path.c_str());
+                    HKEY key = nullptr;
+                    DWORD disposition = 0;
+                    os::CreateKey(HKEY_LOCAL_MACHINE, (path + L"\\Sub").c_str(), 0, &key,
+                                  &disposition);
+                    os::CloseKey(key);
+                }
+        });
     for (int i = 0; i < 100; ++i)
         EXPECT_LE(LoadedTree().Items.Count(), 4u);
-    work.stop = true;
-    EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(thread, 10000));
-    CloseHandle(thread);
+    stop = true;
+    other.join();
 }
 
 } // namespace

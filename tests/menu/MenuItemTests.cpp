@@ -1,7 +1,8 @@
 // The memory side of the model: counted items, child arrays, order, moving.
 #include "menu/MenuItem.h"
 
-#include <memory>
+#include <iterator>
+#include <thread>
 
 #include "menu/MenuItemMap.h"
 #include "menu/MenuKeys.h"
@@ -68,18 +69,14 @@ TEST(RefCount, SeveralThreadsCanShareAnObject)
 {
     bool gone = false;
     CRefPtr<CCounted> pointer(new CCounted(gone));
-    const auto copyOften = [](void* shared) -> DWORD
+    const auto copyOften = [&pointer]
     {
         for (int i = 0; i < 20000; ++i)
-            CRefPtr<CCounted> copy(*static_cast<CRefPtr<CCounted>*>(shared));
-        return 0;
+            CRefPtr<CCounted> copy(pointer);
     };
-    HANDLE threads[2];
-    for (HANDLE& thread : threads)
-        thread = CreateThread(nullptr, 0, copyOften, &pointer, 0, nullptr);
-    ASSERT_EQ(WAIT_OBJECT_0, WaitForMultipleObjects(2, threads, TRUE, 30000));
-    for (const HANDLE thread : threads)
-        CloseHandle(thread);
+    std::thread other(copyOften);
+    copyOften();
+    other.join();
     EXPECT_EQ(1, pointer->References());
     EXPECT_FALSE(gone);
 }

@@ -4,13 +4,14 @@
 #include "menu/Rating.h"
 #include "tests/menu/support/RatingFixture.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/ImportPatch.h"
 
 namespace
 {
 
 constexpr const wchar_t* kList = L"GlobalMRUList";
 constexpr const wchar_t* kMutexName = L"TavLumenar_GlobalMRU";
-constexpr DWORD kPatience = 60000;
+constexpr DWORD kPatience = 30000;
 constexpr int kRounds = 1000;
 
 // Arguments of a child: the sandbox's key and a name, with a bar between them.
@@ -36,18 +37,27 @@ CHILD_ENTRY(PinOften)
     return 0;
 }
 
-// Reads the list without the lock until the event of the given name is set. Returns 0 when every
-// entry had a name at all times.
-CHILD_ENTRY(ReadUntilTold)
+// Which of its registry writes a process doesn't survive.
+int g_writesToLive = 0;
+
+LONG WINAPI DieInsteadOfWriting(HKEY key, const wchar_t* name, DWORD /*reserved*/, DWORD type,
+                                const BYTE* data, DWORD size)
 {
-    const UniqueKernelHandle stop(OpenEventW(SYNCHRONIZE, FALSE, SecondPart(argument).c_str()));
-    if (!stop || !JoinRegistrySandbox(HKEY_LOCAL_MACHINE, FirstPart(argument)))
+    if (--g_writesToLive < 0)
+        TerminateProcess(GetCurrentProcess(), 0);
+    return RegSetKeyValueW(key, nullptr, name, type, data, size);
+}
+
+// Pins "\\new" and dies before the write of the given number. Returns 1 if it lives.
+CHILD_ENTRY(DieAtWrite)
+{
+    if (!JoinRegistrySandbox(HKEY_LOCAL_MACHINE, FirstPart(argument)))
         return 1;
-    while (WaitForSingleObject(stop.get(), 0) != WAIT_OBJECT_0)
-        for (const Ratings::CEntry& entry : Ratings::CRating(kList).Entries)
-            if (entry.Name.empty())
-                return 2;
-    return 0;
+    g_writesToLive = std::stoi(SecondPart(argument));
+    const CImportPatch patch(GetModuleHandleW(nullptr), "advapi32.dll", "RegSetValueExW",
+                             DieInsteadOfWriting);
+    Ratings::SetGlobalPinned(true, L"\\new", Ratings::TargetKind::Link, INFINITE);
+    return 1;
 }
 
 // Takes the lock, says so by an event of the given name, and keeps it until it is ended.
@@ -132,30 +142,20 @@ TEST_F(GlobalMruProcess, ReadingGoesOnAfterAKilledHolderToo)
     EXPECT_EQ(3u, slots.Names.size());
 }
 
-TEST_F(GlobalMruProcess, AListWhoseSaveWasInterruptedIsStillTheOldList)
+TEST_F(GlobalMruProcess, AProcessThatDiesAtAnyWriteOfItsSaveLeavesTheOldList)
 {
-    // All that comes before "Index" was written: the counter and the new entry's name.
-    StoreList(kList, Entries(3, 1));
-    SetDword(RatingsKey(kList), L"Timestamp", 1);
-    SetText(RatingsKey(kList), L"3", L"l:\\new");
-    EXPECT_EQ(L"l:\\0 l:\\1 l:\\2", StoredNames(kList));
+    const UniqueKernelHandle mutex(CreateMutexW(nullptr, FALSE, kMutexName));
+    // The counter, the new entry's name, the list.
+    for (const wchar_t* const write : {L"0", L"1", L"2"})
+    {
+        StoreList(kList, Entries(3, 1));
+        const CChildProcess child(L"DieAtWrite", m_hive.BackingPath() + L"|" + write);
+        ASSERT_TRUE(child.WaitForEnd(kPatience));
+        EXPECT_EQ(0u, child.ExitCode()) << write;
+        EXPECT_EQ(L"l:\\0 l:\\1 l:\\2", StoredNames(kList)) << write;
+    }
     EXPECT_TRUE(SetGlobalPinned(true, L"\\other", Ratings::TargetKind::Link, kPatience));
     EXPECT_EQ(L"l:\\0 l:\\other l:\\1 l:\\2", StoredNames(kList));
-}
-
-TEST_F(GlobalMruProcess, AtNoTimeDoesTheListHoldAnEntryWhoseNameIsNotWritten)
-{
-    const std::wstring eventName = L"TavStop" + std::to_wstring(GetCurrentProcessId());
-    const UniqueKernelHandle stop(CreateEventW(nullptr, TRUE, FALSE, eventName.c_str()));
-    const CChildProcess reader(L"ReadUntilTold", m_hive.BackingPath() + L"|" + eventName);
-    for (int round = 0; round < 500; ++round)
-    {
-        const std::wstring path = L"\\" + std::to_wstring(round);
-        EXPECT_TRUE(SetGlobalPinned(true, path, Ratings::TargetKind::Link, kPatience));
-    }
-    SetEvent(stop.get());
-    EXPECT_TRUE(reader.WaitForEnd(kPatience));
-    EXPECT_EQ(0u, reader.ExitCode());
 }
 
 TEST_F(GlobalMruProcess, PinningGivesUpAfterItsTimeoutAndChangesNothing)
@@ -185,11 +185,13 @@ TEST_F(GlobalMruProcess, ANameTakenByAnotherKindOfObjectGivesFalse)
 
 TEST_F(GlobalMruProcess, TheLockIsReleasedAfterEachOperation)
 {
+    // Keeps the mutex alive: what this thread still held, no other process could take.
+    const UniqueKernelHandle mutex(CreateMutexW(nullptr, FALSE, kMutexName));
     SetGlobalPinned(true, L"\\a", Ratings::TargetKind::Link, INFINITE);
+    CHolder().Kill();
     Ratings::CMruSlots slots;
     ReadGlobalMru(slots, 3);
-    CHolder holder;
-    holder.Kill();
+    CHolder().Kill();
 }
 
 } // namespace

@@ -244,9 +244,8 @@ TEST_P(GlobalMruCalls, PinningANewEntryTakesOneCallMoreForItsName)
     EXPECT_EQ(GetParam() + 7u, CallsOf([] { return Pin(L"\\new"); }));
 }
 
-TEST_P(GlobalMruCalls, TheListOfEntriesIsWrittenLast)
+TEST_P(GlobalMruCalls, PinningAKnownEntryWritesTwoValues)
 {
-    // Index and Timestamp are the only values that a known entry's pin writes.
     StoreList(kList, Entries(GetParam(), 3));
     const unsigned before = os::CountedRegistryCalls().set;
     Pin(L"\\5");
