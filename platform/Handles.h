@@ -99,6 +99,11 @@ struct Icon : Nullable<HICON>
     static void Close(HICON icon) { DestroyIcon(icon); }
 };
 
+struct ImageList : Nullable<HIMAGELIST>
+{
+    static void Close(HIMAGELIST list) { ImageList_Destroy(list); }
+};
+
 struct Window : Nullable<HWND>
 {
     static void Close(HWND window) { DestroyWindow(window); }
@@ -117,6 +122,8 @@ using UniqueBitmap = CUnique<handles::GdiObject<HBITMAP>>;
 using UniqueBrush = CUnique<handles::GdiObject<HBRUSH>>;
 using UniqueMenu = CUnique<handles::Menu>;
 using UniqueIcon = CUnique<handles::Icon>;
+// System image lists are borrowed: they never enter this type.
+using UniqueImageList = CUnique<handles::ImageList>;
 using UniqueWindow = CUnique<handles::Window>;
 
 // Selects a GDI object into a device context and puts the old one back at the end of the scope.

@@ -5,6 +5,8 @@
 #include "platform/os/Text.h"
 #include "ui/Scale.h"
 
+#include <cwchar>
+
 namespace
 {
 
@@ -24,7 +26,7 @@ HFONT CreateFontExactly(const wchar_t* face, int height, int weight, BYTE charse
     font.lfHeight = height;
     font.lfWeight = weight;
     font.lfCharSet = charset;
-    lstrcpynW(font.lfFaceName, face, LF_FACESIZE);
+    wcsncpy(font.lfFaceName, face, LF_FACESIZE - 1);
     return CreateFontIndirectW(&font);
 }
 

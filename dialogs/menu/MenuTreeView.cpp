@@ -34,6 +34,7 @@ bool HasSwitch(const CMenuItem& item)
 void CMenuTreeView::UseCheckBoxes()
 {
     ModifyStyle(0, TVS_CHECKBOXES);
+    m_boxes.reset(GetImageList(TVSIL_STATE));
 }
 
 void CMenuTreeView::Fill(const CMenuTree& tree, const wchar_t* rootText)

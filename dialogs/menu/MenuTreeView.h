@@ -2,6 +2,7 @@
 #pragma once
 
 #include "menu/MenuTree.h"
+#include "platform/Handles.h"
 
 #include <atlctrls.h>
 
@@ -12,7 +13,7 @@ constexpr UINT kNoBox = 0;
 constexpr UINT kUncheckedBox = 1;
 constexpr UINT kCheckedBox = 2;
 
-// The tree view of the menu editor. Does not own the window.
+// The tree view of the menu editor. Does not own the window, but the pictures of its boxes.
 class CMenuTreeView : public CTreeViewCtrl
 {
 public:
@@ -45,6 +46,9 @@ private:
     HTREEITEM Insert(HTREEITEM parent, HTREEITEM after, const wchar_t* text, DWORD id, UINT box);
     void InsertChildren(HTREEITEM node, const CMenuItem& item);
     void VisitFrom(HTREEITEM node, const std::function<void(HTREEITEM)>& visit) const;
+
+    // Made by the tree view, which leaves it to us to destroy them.
+    UniqueImageList m_boxes;
 };
 
 // True for the items whose box can be switched: all but the root and the Settings menu.

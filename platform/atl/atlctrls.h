@@ -95,6 +95,11 @@ public:
         rect = position.rect;
         return static_cast<BOOL>(result);
     }
+    HIMAGELIST GetImageList(int kind) const
+    {
+        return reinterpret_cast<HIMAGELIST>(
+            SendMessage(TVM_GETIMAGELIST, static_cast<WPARAM>(kind)));
+    }
     void SetRedraw(BOOL redraw) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
 
 private:

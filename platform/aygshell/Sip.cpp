@@ -74,7 +74,13 @@ bool IsInputPanelUp()
 void SetInputPanel(bool up)
 {
     const bool changed = g_isUp.exchange(up) != up;
-    ShowSipPanel(up);
+    // Another thread may change its mind meanwhile: what is on the screen ends as the state is.
+    bool shown = false;
+    do
+    {
+        shown = g_isUp;
+        ShowSipPanel(shown);
+    } while (shown != g_isUp);
     if (changed)
         Announce();
 }

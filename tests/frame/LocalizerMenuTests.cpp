@@ -1,12 +1,15 @@
 #include "frame/Localizer.h"
 
 #include "platform/Handles.h"
+#include "tests/frame/ImportPatch.h"
 #include "tests/frame/TranslationFixture.h"
 
 #include <aygshell.h>
 #include <gtest/gtest.h>
 
 #include <vector>
+
+extern "C" void* __imp_GetSubMenu;
 
 namespace
 {
@@ -106,18 +109,42 @@ TEST_F(LocalizerMenu, T16MenusNestedAThousandDeepAreTranslated)
         ASSERT_EQ(L"Neu", ItemText(current, 0));
 }
 
+// This system refuses to close a circle of menus; another one may not.
+HMENU(WINAPI* g_realGetSubMenu)(HMENU, int);
+HMENU g_outer;
+HMENU g_inner;
+
+HMENU WINAPI SubMenuInACircle(HMENU menu, int position)
+{
+    return menu == g_inner && position == 0 ? g_outer : g_realGetSubMenu(menu, position);
+}
+
 TEST_F(LocalizerMenu, T16MenusThatContainEachOtherAreTranslatedOnce)
 {
-    const HMENU other = CreatePopupMenu();
-    Append(menu.get(), 1, L"Rename");
-    Append(other, 2, L"Folder");
-    AppendPopup(menu.get(), other, L"Add");
-    AppendPopup(other, menu.get(), L"Add");
+    g_outer = menu.get();
+    g_inner = CreatePopupMenu();
+    Append(g_inner, 2, L"Folder");
+    Append(g_outer, 1, L"Rename");
+    AppendPopup(g_outer, g_inner, L"Add");
+    std::memcpy(&g_realGetSubMenu, &__imp_GetSubMenu, sizeof(g_realGetSubMenu));
+    {
+        const CImportPatch patch(&__imp_GetSubMenu, SubMenuInACircle);
+        localizer.TranslateMenu(g_outer);
+    }
+    EXPECT_EQ(L"Umbenennen", ItemText(g_outer, 0)) << "its translation is a key, too";
+    EXPECT_EQ(L"Neu", ItemText(g_outer, 1));
+    EXPECT_EQ(L"Ordner", ItemText(g_inner, 0));
+}
+
+TEST_F(LocalizerMenu, T16APopupThatStandsInTwoPlacesIsTranslatedOnce)
+{
+    const HMENU shared = CreatePopupMenu();
+    Append(shared, 1, L"Rename");
+    AppendPopup(menu.get(), shared, L"Add");
+    AppendPopup(menu.get(), shared, L"Other");
     localizer.TranslateMenu(menu.get());
-    EXPECT_EQ(L"Umbenennen", ItemText(menu.get(), 0));
-    EXPECT_EQ(L"Ordner", ItemText(other, 0));
-    EXPECT_EQ(L"Neu", ItemText(other, 1));
-    RemoveMenu(other, 1, MF_BYPOSITION);
+    EXPECT_EQ(L"Umbenennen", ItemText(shared, 0)) << "its translation is a key, too";
+    RemoveMenu(menu.get(), 1, MF_BYPOSITION);
 }
 
 TEST_F(LocalizerMenu, ItemsThatAreNoTextsStay)

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 extern "C" void* __imp_GetFileSize;
 extern "C" void* __imp_ReadFile;
 extern "C" void* __imp_MultiByteToWideChar;
@@ -83,6 +85,15 @@ void* __cdecl FailingMalloc(size_t)
 void* __cdecl FailingCalloc(size_t, size_t)
 {
     return nullptr;
+}
+
+void*(__cdecl* g_realMalloc)(size_t);
+size_t g_largestRequest;
+
+void* __cdecl RecordingMalloc(size_t size)
+{
+    g_largestRequest = std::max(g_largestRequest, size);
+    return size < 0x1000000 ? g_realMalloc(size) : nullptr;
 }
 
 // The code page that the conversion is asked for.
@@ -187,11 +198,15 @@ TEST_F(TranslationFile, T5AZeroInsideEndsTheFile)
 
 TEST_F(TranslationFile, T7AFileThatIsTooLargeFails)
 {
+    std::memcpy(&g_realMalloc, &__imp_malloc, sizeof(g_realMalloc));
     for (const auto size : {SizeUnknown, SizeAboveFourGigabytes, SizeAboveLimit})
     {
+        g_largestRequest = 0;
         const CImportPatch patch(&__imp_GetFileSize, size);
+        const CImportPatch recorder(&__imp_malloc, RecordingMalloc);
         EXPECT_FALSE(Load("Done|Fertig\n"));
         EXPECT_FALSE(Load(Utf16File(L"Done|Fertig\n")));
+        EXPECT_GT(0x1000000u, g_largestRequest) << "no memory is asked for";
         ExpectNothingLoaded();
     }
 }

@@ -2,6 +2,7 @@
 #include "ui/Scale.h"
 
 #include "frame/Resolution.h"
+#include "tests/support/ImportPatch.h"
 #include "tests/support/Pixels.h"
 
 #include <gtest/gtest.h>
@@ -46,6 +47,56 @@ TEST(Scale, HugeLengthsSaturateInsteadOfOverflowing)
     EXPECT_EQ(-INT_MAX, ScaleToDpi(INT_MIN, 192));
     EXPECT_EQ(INT_MAX, ScaleToDpi(INT_MAX, INT_MAX));
     EXPECT_EQ(INT_MAX, ScaleToDpi(INT_MAX, 96));
+}
+
+namespace
+{
+
+int g_dpi;
+
+int WINAPI ReportDpi(HDC, int)
+{
+    return g_dpi;
+}
+
+// The resolution as it is read from a screen that reports `dpi`.
+ScreenResolution ReadFrom(int dpi)
+{
+    const CImportPatch patch(GetModuleHandleW(nullptr), "gdi32.dll", "GetDeviceCaps", ReportDpi);
+    g_dpi = dpi;
+    // Read once in a process: made unread again.
+    auto& resolution = const_cast<ScreenResolution&>(GetScreenResolution());
+    resolution = ScreenResolution();
+    ReadScreenResolution();
+    const ScreenResolution result = resolution;
+    resolution = ScreenResolution();
+    return result;
+}
+
+} // namespace
+
+TEST(Resolution, IsWhatTheScreenReports)
+{
+    EXPECT_EQ(131, ReadFrom(131).dpiX);
+    EXPECT_EQ(131, ReadFrom(131).dpiY);
+}
+
+TEST(Resolution, OfAScreenThatReportsNothingSensibleIs96)
+{
+    for (const int dpi : {0, -1, -192, INT_MIN})
+    {
+        EXPECT_EQ(96, ReadFrom(dpi).dpiX) << dpi;
+        EXPECT_EQ(96, ReadFrom(dpi).dpiY) << dpi;
+    }
+}
+
+TEST(Resolution, IsReadOnce)
+{
+    const int dpi = GetScreenResolution().dpiX;
+    const CImportPatch patch(GetModuleHandleW(nullptr), "gdi32.dll", "GetDeviceCaps", ReportDpi);
+    g_dpi = dpi * 2;
+    ReadScreenResolution();
+    EXPECT_EQ(dpi, GetScreenResolution().dpiX);
 }
 
 TEST(ScaleGeometry, UsesTheScreensOwnResolution)

@@ -29,7 +29,10 @@ struct SHINITDLGINFO
 };
 
 // Sizes a dialog to the screen's work area and gives it the platform's dialog manners; to be called
-// from WM_INITDIALOG. Returns TRUE on success; FALSE with the last error set otherwise.
+// from WM_INITDIALOG. With SHIDIF_SIZEDLGFULLSCREEN the dialog loses its frame and is fitted anew
+// whenever the screen changes, before it hears of it. Tree and list views of the dialog, also those
+// created later, send NM_STYLUSDOWN and know tap-and-hold. Returns TRUE on success; FALSE with the
+// last error set otherwise.
 AYGSHELLAPI BOOL WINAPI SHInitDialog(SHINITDLGINFO* info);
 
 // SHMENUBARINFO::dwFlags.
@@ -54,7 +57,10 @@ struct SHMENUBARINFO
 
 // Creates the soft-key bar of a window. With SHCMBF_HMENU, nToolBarId is a menu resource of
 // hInstRes whose top-level entries become the soft keys. The window owns the bar; hwndMB receives
-// it. Returns TRUE on success; FALSE with the last error set otherwise.
+// its toolbar. A second bar replaces the first. Returns TRUE on success; FALSE with the last error
+// set otherwise. On a keyboard F1 is the left and F2 the right soft key, Alt and an underlined
+// letter press the key that shows it; help (WM_HELP) is asked for by Ctrl+F1 or the Help key, and
+// by F1 alone only while the bar has no keys.
 AYGSHELLAPI BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info);
 
 // The soft-key bar of a window: a toolbar that answers TB_BUTTONCOUNT, TB_GETBUTTON and

@@ -1,32 +1,42 @@
 // The DLL as a whole: its export table, and that it leaves nothing behind.
 #include "tests/platform/aygshell/TestDialog.h"
 
-#include <set>
-#include <string>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/platform/aygshell/TestMenus.h"
+#include "tests/support/ImportPatch.h"
+#include "tests/support/ImportTable.h"
 #include "tests/support/LeakCounter.h"
 
 namespace
 {
 
-std::set<std::string> ExportsOf(HMODULE module)
+HMODULE Library()
 {
-    const auto* base = reinterpret_cast<const BYTE*>(module);
-    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-    const IMAGE_DATA_DIRECTORY& place =
-        headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
-    const auto* directory =
-        reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(base + place.VirtualAddress);
-    const auto* names = reinterpret_cast<const DWORD*>(base + directory->AddressOfNames);
-    std::set<std::string> exports;
-    for (DWORD i = 0; i < directory->NumberOfNames; ++i)
-        exports.insert(reinterpret_cast<const char*>(base + names[i]));
-    return exports;
+    return GetModuleHandleW(L"aygshell.dll");
+}
+
+int g_hooks = 0;
+
+HHOOK WINAPI CountedHook(int kind, HOOKPROC procedure, HINSTANCE module, DWORD thread)
+{
+    const HHOOK hook = SetWindowsHookExW(kind, procedure, module, thread);
+    g_hooks += hook != nullptr ? 1 : 0;
+    return hook;
+}
+
+BOOL WINAPI CountedUnhook(HHOOK hook)
+{
+    const BOOL done = UnhookWindowsHookEx(hook);
+    g_hooks -= done ? 1 : 0;
+    return done;
+}
+
+HHOOK WINAPI FailingHook(int, HOOKPROC, HINSTANCE, DWORD)
+{
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
 }
 
 // What one dialog does with the shell, from start to end.
@@ -52,18 +62,27 @@ void UseOften(int times)
         UseOnce();
 }
 
-// The announcements end on threads of their own, soon after.
-ResourceCounts CountWhenQuiet(const ResourceCounts& expected)
+bool SameObjects(ResourceCounts left, const ResourceCounts& right)
+{
+    left.heapBytes = right.heapBytes;
+    return left == right;
+}
+
+// The announcements end on threads of their own, soon after: waits until the counts stand still.
+ResourceCounts CountWhenQuiet()
 {
     const ULONGLONG end = GetTickCount64() + 3000;
     ResourceCounts counts = CountResources();
-    while (!(counts == expected) && GetTickCount64() < end)
+    for (int still = 0; still < 10 && GetTickCount64() < end; ++still)
     {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
             DispatchMessageW(&message);
         Sleep(20);
-        counts = CountResources();
+        const ResourceCounts now = CountResources();
+        if (!SameObjects(now, counts))
+            still = 0;
+        counts = now;
     }
     return counts;
 }
@@ -72,7 +91,7 @@ ResourceCounts CountWhenQuiet(const ResourceCounts& expected)
 
 TEST(Library, ExportsTheSixFunctionsByTheirPlainNamesAndNothingElse)
 {
-    EXPECT_THAT(ExportsOf(GetModuleHandleW(L"aygshell.dll")),
+    EXPECT_THAT(ExportsOf(Library()),
                 testing::UnorderedElementsAre("SHInitDialog", "SHCreateMenuBar", "SHFindMenuBar",
                                               "SHRecognizeGesture", "SHSipInfo",
                                               "SHInitExtraControls"));
@@ -81,11 +100,38 @@ TEST(Library, ExportsTheSixFunctionsByTheirPlainNamesAndNothingElse)
 TEST(Library, TwoHundredDialogsLeaveNothingBehind)
 {
     UseOften(20);
-    const ResourceCounts settled = CountWhenQuiet({});
+    const ResourceCounts settled = CountWhenQuiet();
     UseOften(200);
-    ResourceCounts after = CountWhenQuiet(settled);
-    // The heap breathes with the system's own caches; everything else must be exact.
+    const ResourceCounts after = CountWhenQuiet();
+    EXPECT_TRUE(SameObjects(after, settled)) << "before: " << settled << "\nafter: " << after;
+    // The heap breathes with the system's own caches.
     EXPECT_LT(after.heapBytes, settled.heapBytes + 20000);
-    after.heapBytes = settled.heapBytes;
-    EXPECT_EQ(after, settled);
+}
+
+TEST(Library, EveryHookGoesWithItsBar)
+{
+    const CImportPatch hooking(Library(), "user32.dll", "SetWindowsHookExW", CountedHook);
+    const CImportPatch unhooking(Library(), "user32.dll", "UnhookWindowsHookEx", CountedUnhook);
+    g_hooks = 0;
+    {
+        CTestDialog dialog;
+        dialog.CreateBar(IDM_TWO_KEYS);
+        dialog.CreateBar(IDM_ONE_KEY);
+        EXPECT_EQ(g_hooks, 1);
+    }
+    EXPECT_EQ(g_hooks, 0);
+}
+
+TEST(Library, ABarWithoutAKeyboardIsRefusedAndLeavesNothing)
+{
+    CTestDialog dialog;
+    const CImportPatch hooking(Library(), "user32.dll", "SetWindowsHookExW", FailingHook);
+    const ResourceCounts before = CountResources();
+    EXPECT_FALSE(dialog.CreateBar(IDM_KEY_AND_POPUP));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY));
+    EXPECT_EQ(SHFindMenuBar(dialog.Window()), nullptr);
+    const ResourceCounts after = CountResources();
+    EXPECT_EQ(after.windows, before.windows);
+    EXPECT_EQ(after.menus, before.menus);
+    EXPECT_EQ(after.gdiObjects, before.gdiObjects);
 }

@@ -2,7 +2,6 @@
 #include "tests/platform/aygshell/TestDialog.h"
 
 #include <set>
-#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -20,12 +19,6 @@ SHMENUBARINFO InfoFor(HWND parent)
     info.nToolBarId = IDM_TWO_KEYS;
     info.hInstRes = GetModuleHandleW(nullptr);
     return info;
-}
-
-DWORD ErrorOf(SHMENUBARINFO* info)
-{
-    SetLastError(ERROR_SUCCESS);
-    return SHCreateMenuBar(info) ? ERROR_SUCCESS : GetLastError();
 }
 
 int ButtonCount(HWND toolbar)
@@ -86,57 +79,6 @@ std::vector<COLORREF> PixelsOf(HWND window)
 }
 
 } // namespace
-
-TEST(MenuBar, AMissingMenuIsRefused)
-{
-    CTestDialog dialog;
-    SHMENUBARINFO info = InfoFor(dialog.Window());
-    info.nToolBarId = 999;
-    EXPECT_EQ(ErrorOf(&info), static_cast<DWORD>(ERROR_RESOURCE_NAME_NOT_FOUND));
-    EXPECT_EQ(SHFindMenuBar(dialog.Window()), nullptr);
-}
-
-TEST(MenuBar, AMissingParentIsRefused)
-{
-    SHMENUBARINFO info = InfoFor(nullptr);
-    EXPECT_EQ(ErrorOf(&info), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
-}
-
-TEST(MenuBar, AnotherThreadsParentIsRefused)
-{
-    CTestDialog dialog;
-    SHMENUBARINFO info = InfoFor(dialog.Window());
-    DWORD error = 0;
-    std::thread([&] { error = ErrorOf(&info); }).join();
-    EXPECT_EQ(error, static_cast<DWORD>(ERROR_WINDOW_OF_OTHER_THREAD));
-}
-
-TEST(MenuBar, AWrongSizeIsRefused)
-{
-    CTestDialog dialog;
-    SHMENUBARINFO info = InfoFor(dialog.Window());
-    info.cbSize = sizeof info - 4;
-    EXPECT_EQ(ErrorOf(&info), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
-    EXPECT_EQ(ErrorOf(nullptr), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
-}
-
-TEST(MenuBar, AToolbarResourceIsRefused)
-{
-    CTestDialog dialog;
-    SHMENUBARINFO info = InfoFor(dialog.Window());
-    info.dwFlags = SHCMBF_HIDESIPBUTTON;
-    EXPECT_EQ(ErrorOf(&info), static_cast<DWORD>(ERROR_NOT_SUPPORTED));
-}
-
-TEST(MenuBar, AFailureLeavesTheEarlierBar)
-{
-    CTestDialog dialog;
-    ASSERT_TRUE(dialog.CreateBar(IDM_TWO_KEYS));
-    const HWND toolbar = SHFindMenuBar(dialog.Window());
-    EXPECT_FALSE(dialog.CreateBar(999));
-    EXPECT_EQ(SHFindMenuBar(dialog.Window()), toolbar);
-    EXPECT_EQ(ButtonCount(toolbar), 2);
-}
 
 TEST(MenuBar, TheCallerGetsTheToolbarThatIsFoundLater)
 {
