@@ -14,6 +14,10 @@ use_device() {
 make_device() {
     make_prefix "$WINEPREFIX" "$dpi"
     prepare_folders
+    [ -f "$WINEPREFIX/.window" ] && return 0
+    # Unlike a bare virtual screen, a person's desktop has a window manager to move the device with.
+    reg_set 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ Y
+    touch "$WINEPREFIX/.window"
 }
 
 prepare_folders() {
@@ -54,7 +58,7 @@ choose_language() {
 
 start_shell() { # ARGUMENTS...
     # The output is Wine's chatter; a pipe would be kept open by the system processes it starts.
-    LC_ALL=$(locale_of "$language") wine explorer "/desktop=lumenar-$screen,$screen" \
+    LC_ALL=$(locale_of "$language") wine explorer "/desktop=Lumenar,$screen" \
         "$shell_program" "$@" >out/run-wine.log 2>&1 </dev/null
 }
 

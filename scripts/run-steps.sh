@@ -23,7 +23,7 @@ build_device() {
     cmake --build --preset x86_64 --target TavLumenarShell
 }
 
-# True when a window could be opened: a reachable display, asked for with Wine's own first connection.
+# True when a window can be opened here.
 has_display() {
     [ -n "${DISPLAY:-}" ] || return 1
     local number=${DISPLAY##*:}
