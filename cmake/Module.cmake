@@ -9,3 +9,18 @@ target_link_libraries(TavLumenarDialogs PRIVATE tav_warnings tav_dialogs_menu)
 target_link_options(TavLumenarDialogs PRIVATE -s -Wl,--enable-stdcall-fixup)
 file(GLOB resource_parts CONFIGURE_DEPENDS resources/*.rc2 resources/*.h resources/dialogs/*.rc2)
 set_source_files_properties(resources/Module.rc PROPERTIES OBJECT_DEPENDS "${resource_parts}")
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # A 32-bit host asks for the decorated names, which the linker's import library doesn't know.
+    set(decorated ${CMAKE_BINARY_DIR}/TavLumenarDialogs.decorated.def)
+    file(CONFIGURE OUTPUT ${decorated} CONTENT "LIBRARY TavLumenarDialogs.dll
+EXPORTS
+    CustomizeMenu@16
+    CustomizeHome@16
+    CustomizeNow@16
+    InstallWizard@16
+    SelectCity@12
+")
+    add_custom_command(TARGET TavLumenarDialogs POST_BUILD
+        COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${decorated}
+            --output-lib $<TARGET_LINKER_FILE:TavLumenarDialogs>)
+endif()

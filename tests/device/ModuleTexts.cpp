@@ -26,10 +26,14 @@ std::wstring WindowText(HWND window)
     return std::wstring(text, static_cast<size_t>(GetWindowTextW(window, text, 1024)));
 }
 
+INT_PTR CALLBACK HandleNothing(HWND, UINT, WPARAM, LPARAM)
+{
+    return FALSE;
+}
+
 void AddDialog(HMODULE module, const wchar_t* name, Texts& texts)
 {
-    const UniqueWindow dialog(CreateDialogParamW(
-        module, name, nullptr, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0));
+    const UniqueWindow dialog(CreateDialogParamW(module, name, nullptr, HandleNothing, 0));
     ASSERT_TRUE(dialog) << "a dialog template can't be shown";
     Add(texts, WindowText(dialog.get()));
     for (HWND child = GetWindow(dialog.get(), GW_CHILD); child;
