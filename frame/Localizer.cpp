@@ -20,7 +20,7 @@ constexpr int kTextSize = 1024;
 std::wstring TranslationPath()
 {
     CVORegistry key(HKEY_LOCAL_MACHINE, kShellKey, FALSE, FALSE, 0);
-    return key.GetString(kInstallDir, L"") + kFileName;
+    return key.GetString(kInstallDir, nullptr) + kFileName;
 }
 
 } // namespace

@@ -63,12 +63,12 @@ TEST_F(LoadTranslations, WithoutTheKeyEverythingStaysEnglishAndNothingIsCreated)
     EXPECT_FALSE(hive.KeyExists(kShellKey));
 }
 
-TEST_F(LoadTranslations, AMissingFolderValueBecomesEmpty)
+TEST_F(LoadTranslations, AMissingFolderValueCountsAsEmptyAndIsNotCreated)
 {
     hive.CreateKey(kShellKey);
     ::LoadTranslations();
     EXPECT_EQ(nullptr, GetLocalizer().Text);
-    EXPECT_EQ(L"", hive.Text(kShellKey, L"InstallDir")) << "reading with a default writes it";
+    EXPECT_FALSE(hive.ValueExists(kShellKey, L"InstallDir"));
 }
 
 TEST_F(LoadTranslations, AFolderValueOfAnotherTypeCountsAsEmpty)

@@ -31,8 +31,7 @@ protected:
     Gesture() : dialog({{L"Static", 0, 7, 5, 5, 40, 40}})
     {
         dialog.Open();
-        SetCursorPos(50, 50);
-        dialog.RunPending();
+        dialog.ParkPointer({50, 50});
     }
     ~Gesture() override
     {

@@ -49,8 +49,7 @@ protected:
             });
         dialog.Open();
         SetFocus(list);
-        SetCursorPos(0, 0);
-        dialog.RunPending();
+        dialog.ParkPointer({0, 0});
         dialog.ClearLog();
     }
 
@@ -78,6 +77,8 @@ TEST_F(StylusList, ATapIsAnnouncedAndSelects)
 TEST_F(StylusList, AHoldAsksForTheMenu)
 {
     answer = kRecognise;
+    const CLater lift(kLong, [window = list, row = Row(1)]
+                      { PostMessageW(window, WM_LBUTTONUP, 0, PointParam(row)); });
     PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(Row(1)));
     EXPECT_TRUE(dialog.RunUntil([this] { return dialog.Count(WM_CONTEXTMENU) == 1; }));
 }

@@ -15,7 +15,7 @@ TEST_F(StylusTree, APressIsAnnouncedWithItsPoint)
 TEST_F(StylusTree, AnAnnouncementWithoutAnAnswerLetsAHoldBeRecognised)
 {
     dialog.SetHandler({});
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(LabelOf(second)));
+    PostPress(LabelOf(second), kLong);
     EXPECT_TRUE(RunUntilContextMenu());
 }
 
@@ -48,7 +48,7 @@ TEST_F(StylusTree, AHoldAsksForTheMenuAtItsPointAndSwallowsThePress)
     answer = kRecognise;
     TreeView_SelectItem(tree, first);
     const ULONGLONG start = GetTickCount64();
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(LabelOf(second)));
+    PostPress(LabelOf(second), kLong);
     ASSERT_TRUE(RunUntilContextMenu());
     EXPECT_GE(GetTickCount64() - start, 690u);
     EXPECT_EQ(ContextMenu()->WParam, reinterpret_cast<WPARAM>(tree));
@@ -61,10 +61,7 @@ TEST_F(StylusTree, AHoldAsksForTheMenuAtItsPointAndSwallowsThePress)
 
 TEST_F(StylusTree, AHoldWithoutGestureAsksForNothing)
 {
-    POINT point = LabelOf(second);
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(point));
-    const CLater later(900,
-                       [this, point] { PostMessageW(tree, WM_LBUTTONUP, 0, PointParam(point)); });
+    PostPress(LabelOf(second), 900);
     EXPECT_TRUE(dialog.RunUntil([this] { return TreeView_GetSelection(tree) == second; }));
     EXPECT_EQ(dialog.Count(WM_CONTEXTMENU), 0);
 }
@@ -72,10 +69,7 @@ TEST_F(StylusTree, AHoldWithoutGestureAsksForNothing)
 TEST_F(StylusTree, AStylusThatIsLiftedBeforeTheHoldTimeTaps)
 {
     answer = kRecognise;
-    const POINT point = LabelOf(second);
-    const CLater later(300,
-                       [this, point] { PostMessageW(tree, WM_LBUTTONUP, 0, PointParam(point)); });
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(point));
+    PostPress(LabelOf(second), 300);
     EXPECT_TRUE(dialog.RunUntil([this] { return TreeView_GetSelection(tree) == second; }));
     EXPECT_EQ(dialog.Count(WM_CONTEXTMENU), 0);
 }
@@ -83,11 +77,8 @@ TEST_F(StylusTree, AStylusThatIsLiftedBeforeTheHoldTimeTaps)
 TEST_F(StylusTree, AStylusThatMovesDragsAndIsNotHeld)
 {
     answer = kRecognise;
-    const POINT point = LabelOf(second);
     const CLater move(100, [] { SetCursorPos(30, 0); });
-    const CLater lift(1200,
-                      [this, point] { PostMessageW(tree, WM_LBUTTONUP, 0, PointParam(point)); });
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(point));
+    PostPress(LabelOf(second), kLong);
     EXPECT_TRUE(dialog.RunUntil(
         [this] { return dialog.CountNotify(static_cast<UINT>(TVN_BEGINDRAGW)) == 1; }));
     EXPECT_EQ(dialog.Count(WM_CONTEXTMENU), 0);
@@ -97,7 +88,7 @@ TEST_F(StylusTree, AStylusThatTremblesIsHeld)
 {
     answer = kRecognise;
     const CLater move(100, [] { SetCursorPos(Scaled(3), 0); });
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(LabelOf(second)));
+    PostPress(LabelOf(second), kLong);
     EXPECT_TRUE(RunUntilContextMenu());
 }
 
@@ -141,7 +132,7 @@ TEST_F(StylusTree, ATreeThatGoesAwayDuringTheHoldIsLeftAlone)
                 DestroyWindow(tree);
             return entry.Message == WM_CLOSE;
         });
-    PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(LabelOf(second)));
+    PostPress(LabelOf(second), kLong);
     EXPECT_TRUE(dialog.RunUntil([this] { return !IsWindow(tree); }));
     EXPECT_EQ(dialog.Count(WM_CONTEXTMENU), 0);
 }

@@ -4,12 +4,16 @@
 
 #include "tests/platform/aygshell/TestDialog.h"
 
+#include <memory>
 #include <thread>
 
 #include <gtest/gtest.h>
 
 constexpr int kTreeId = 203;
 constexpr UINT kPostedInAnnouncement = WM_APP + 1;
+
+// Well beyond the time of a tap-and-hold, in milliseconds.
+constexpr DWORD kLong = 1500;
 
 // What the dialog answers: a gesture may be recognised, or none.
 constexpr LRESULT kRecognise = 0;
@@ -55,8 +59,7 @@ protected:
                           { return OnMessage(entry, result); });
         dialog.Open();
         SetFocus(tree);
-        SetCursorPos(0, 0);
-        dialog.RunPending();
+        dialog.ParkPointer({0, 0});
         dialog.ClearLog();
     }
 
@@ -115,6 +118,15 @@ protected:
         return point;
     }
 
+    // Puts the stylus down at a point, by message; it is lifted after that many milliseconds.
+    void PostPress(POINT point, DWORD liftAfter)
+    {
+        PostMessageW(tree, WM_LBUTTONDOWN, MK_LBUTTON, PointParam(point));
+        const HWND window = tree;
+        m_lift = std::make_unique<CLater>(
+            liftAfter, [=] { PostMessageW(window, WM_LBUTTONUP, 0, PointParam(point)); });
+    }
+
     const LoggedMessage* ContextMenu()
     {
         for (const LoggedMessage& entry : dialog.Log())
@@ -138,4 +150,7 @@ protected:
     UINT stateAtAnnouncement = 99;
     UINT stateAtClick = 99;
     UINT stateWhenPosted = 99;
+
+private:
+    std::unique_ptr<CLater> m_lift;
 };

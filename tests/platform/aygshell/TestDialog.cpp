@@ -131,6 +131,25 @@ bool CTestDialog::RunUntil(const std::function<bool()>& condition)
     }
 }
 
+void CTestDialog::ParkPointer(POINT screen)
+{
+    constexpr ULONGLONG kQuiet = 60;
+    ULONGLONG since = 0;
+    RunUntil(
+        [&]
+        {
+            POINT now{};
+            GetCursorPos(&now);
+            const bool isThere = now.x == screen.x && now.y == screen.y;
+            if (since == 0 || !isThere)
+            {
+                SetCursorPos(screen.x, screen.y);
+                since = GetTickCount64();
+            }
+            return isThere && GetTickCount64() - since > kQuiet;
+        });
+}
+
 int CTestDialog::Count(UINT message) const
 {
     return static_cast<int>(std::count_if(m_log.begin(), m_log.end(),

@@ -61,6 +61,10 @@ public:
     // Handles all messages that wait now.
     void RunPending();
 
+    // Puts the pointer at a place of the screen and waits until it stays there: the screen reports
+    // earlier moves late.
+    void ParkPointer(POINT screen);
+
     void SetHandler(Handler handler) { m_handler = std::move(handler); }
     void ClearLog() { m_log.clear(); }
     const std::vector<LoggedMessage>& Log() const { return m_log; }
