@@ -4,7 +4,7 @@ export WINEDEBUG=-all
 export WINEARCH=win64
 
 # Changes with whatever make_prefix sets up, so that an older prefix is made anew.
-prefix_version=1
+prefix_version=2
 
 reg_set() { # KEY NAME TYPE VALUE
     wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1
@@ -34,12 +34,22 @@ make_prefix() { # DIR DPI
     touch "$1/.version-$prefix_version-$2"
 }
 
-# A copy at another resolution takes two seconds, a new prefix ten.
+# Another prefix at another resolution: a registry and user folders of its own, the system's files,
+# which are most of it, shared with the first.
 copy_prefix() { # FROM TO DPI
     [ -f "$2/.version-$prefix_version-$3" ] && return 0
+    local from entry
+    from=$(realpath "$1")
     rm -rf "$2"
-    cp -a "$1" "$2"
-    rm -f "$2"/.version-*
+    mkdir -p "$2/drive_c"
+    cp -a "$from"/*.reg "$from/.update-timestamp" "$from/dosdevices" "$2"
+    for entry in "$from"/drive_c/*; do
+        if [ "${entry##*/}" = windows ]; then
+            ln -s "$entry" "$2/drive_c/windows"
+        else
+            cp -a "$entry" "$2/drive_c"
+        fi
+    done
     WINEPREFIX=$2 reg_set 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$3"
     WINEPREFIX=$2 wineserver -w
     touch "$2/.version-$prefix_version-$3"
