@@ -16,7 +16,7 @@ constexpr COLORREF kPaper = RGB(252, 254, 254);
 constexpr COLORREF kFace = RGB(236, 243, 244);
 constexpr COLORREF kMist = RGB(205, 225, 229);
 constexpr COLORREF kInk = RGB(22, 38, 43);
-constexpr COLORREF kFaded = RGB(128, 146, 151);
+constexpr COLORREF kFaded = RGB(100, 120, 126);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 } // namespace colours
