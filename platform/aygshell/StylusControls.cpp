@@ -3,6 +3,7 @@
 #include "aygshell.h"
 
 #include "platform/aygshell/Gesture.h"
+#include "platform/aygshell/Metrics.h"
 #include "platform/aygshell/Module.h"
 
 namespace shell
@@ -19,6 +20,9 @@ enum Kind : DWORD_PTR
     Tree,
     List
 };
+
+// How far a level of a tree is set in, in logical pixels; desktops don't scale it.
+constexpr int kTreeIndent = 19;
 
 // lParam of key messages: the key was down before.
 constexpr LPARAM kRepeated = 1 << 30;
@@ -183,6 +187,8 @@ void GiveStylusManners(HWND control)
     const Kind kind = KindOf(control);
     if (kind != Other)
         SetWindowSubclass(control, StylusProc, kStylusSubclass, kind);
+    if (kind == Tree)
+        TreeView_SetIndent(control, Scaled(kTreeIndent));
 }
 
 } // namespace shell

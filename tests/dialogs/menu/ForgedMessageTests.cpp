@@ -1,5 +1,6 @@
 // Messages that no honest sender sends: the editor stays as it is.
 #include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/support/FaultCounter.h"
 
 #include <climits>
 
@@ -43,18 +44,21 @@ protected:
         Open();
         Select(L"Programs/Calendar");
         m_before = tree.Dump();
+        m_faults = std::make_unique<CFaultCounter>(module->Handle());
     }
     void ExpectUntouched()
     {
         EXPECT_EQ(m_before, tree.Dump());
         EXPECT_EQ(tree.Find(L"Programs/Calendar"), tree.Selected());
         EXPECT_FALSE(run->HasEnded());
+        EXPECT_EQ(0, m_faults->Count());
     }
     LRESULT Notify(LPARAM data) { return SendMessageW(dialog, WM_NOTIFY, kTreeId, data); }
     NMHDR Header(HWND from, UINT code) { return {from, kTreeId, code}; }
 
 private:
     std::wstring m_before;
+    std::unique_ptr<CFaultCounter> m_faults;
 };
 
 } // namespace
@@ -76,8 +80,8 @@ TEST_F(Forged, NotificationsOfForeignWindowsAreDropped)
         key.hdr = Header(from, static_cast<UINT>(TVN_KEYDOWN));
         key.wVKey = VK_RETURN;
         Notify(reinterpret_cast<LPARAM>(&key));
+        ExpectUntouched();
     }
-    ExpectUntouched();
 }
 
 TEST_F(Forged, AStylusNotificationThatIsCutOffStopsTheHold)

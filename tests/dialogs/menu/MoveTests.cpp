@@ -106,6 +106,32 @@ TEST_F(Moving, TheMovedNodeIsMadeVisible)
     EXPECT_TRUE(tree.IsInView(tree.Find(L"Tools/Item 59")));
 }
 
+namespace
+{
+
+// The node that the tree was last asked to make visible.
+WNDPROC g_treeProcedure;
+LPARAM g_shown;
+
+LRESULT CALLBACK RecordShown(HWND tree, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == TVM_ENSUREVISIBLE)
+        g_shown = lParam;
+    return CallWindowProcW(g_treeProcedure, tree, message, wParam, lParam);
+}
+
+} // namespace
+
+TEST_F(Moving, TheTreeIsAskedToMakeTheMovedNodeVisible)
+{
+    // Some tree views do so for every node that is selected, others don't.
+    Open();
+    g_treeProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(tree.Window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(RecordShown)));
+    Move(L"Programs/Notes", CommandMoveUp);
+    EXPECT_EQ(tree.Find(L"Programs/Notes"), reinterpret_cast<HTREEITEM>(g_shown));
+}
+
 TEST_F(Moving, TheMovedNodeKeepsTextAndData)
 {
     Open();

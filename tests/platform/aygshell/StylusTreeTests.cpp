@@ -132,3 +132,11 @@ TEST_F(StylusTree, SpaceKeepsTheTreesDefault)
     TypeKey(VK_SPACE);
     EXPECT_TRUE(dialog.RunUntil([this] { return BoxState(tree, first) == 2; }));
 }
+
+TEST_F(StylusTree, GeometryOfALevelIsScaledWithTheScreen)
+{
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    EXPECT_EQ(TreeView_GetIndent(tree), static_cast<UINT>((19 * dpi + 48) / 96));
+}
