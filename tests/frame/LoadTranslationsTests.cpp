@@ -1,11 +1,13 @@
 #include "frame/Localizer.h"
 
 #include "platform/os/Registry.h"
-#include "tests/frame/ImportPatch.h"
 #include "tests/frame/TranslationFixture.h"
+#include "tests/support/ImportPatch.h"
 #include "tests/support/RegistrySandbox.h"
 
 #include <gtest/gtest.h>
+
+#include <cstring>
 
 extern "C" void* __imp_malloc;
 
@@ -20,7 +22,7 @@ protected:
     ~LoadTranslations() override { GetLocalizer().Clear(); }
 
     CRegistrySandbox hive;
-    CTemporaryFolder folder;
+    CTempFolder folder;
 };
 
 void*(__cdecl* g_realMalloc)(size_t);

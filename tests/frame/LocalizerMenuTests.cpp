@@ -1,12 +1,13 @@
 #include "frame/Localizer.h"
 
 #include "platform/Handles.h"
-#include "tests/frame/ImportPatch.h"
 #include "tests/frame/TranslationFixture.h"
+#include "tests/support/ImportPatch.h"
 
 #include <aygshell.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <vector>
 
 extern "C" void* __imp_GetSubMenu;

@@ -21,14 +21,14 @@ std::wstring ProgramFolder()
     return name.substr(0, name.find_last_of(L'\\'));
 }
 
-void CopyInto(const CTemporaryFolder& folder, const wchar_t* from, const wchar_t* to)
+void CopyInto(const CTempFolder& folder, const wchar_t* from, const wchar_t* to)
 {
     EXPECT_TRUE(CopyFileW((ProgramFolder() + L"\\" + from).c_str(),
                           (folder.Path() + L"\\" + to).c_str(), FALSE));
 }
 
 // Runs the probe program from its own folder within the given current folder; its exit code.
-DWORD RunProbe(const CTemporaryFolder& programs, const std::wstring& currentFolder)
+DWORD RunProbe(const CTempFolder& programs, const std::wstring& currentFolder)
 {
     const std::wstring path = programs.Path() + L"\\profiler_probe.exe";
     STARTUPINFOW startup = {};
@@ -46,7 +46,7 @@ DWORD RunProbe(const CTemporaryFolder& programs, const std::wstring& currentFold
 }
 
 // The probe with the shell function library that it imports.
-class CProbeFolder : public CTemporaryFolder
+class CProbeFolder : public CTempFolder
 {
 public:
     CProbeFolder()
@@ -119,7 +119,7 @@ TEST(ProfilerHooks, ALibraryThatIsLoadedStays)
 
 TEST(ProfilerHooks, P1ALibraryPlantedInTheCurrentFolderIsNotLoaded)
 {
-    const CTemporaryFolder planted;
+    const CTempFolder planted;
     CopyInto(planted, kComplete, L"tav_planted.dll");
     wchar_t before[MAX_PATH] = {};
     GetCurrentDirectoryW(MAX_PATH, before);
@@ -153,7 +153,7 @@ TEST(ProfilerHooks, P2TheModulesHooksTakeALibraryWithFewerExports)
 TEST(ProfilerHooks, P1TheModulesHooksIgnoreALibraryInTheCurrentFolder)
 {
     const CProbeFolder programs;
-    const CTemporaryFolder planted;
+    const CTempFolder planted;
     CopyInto(planted, kComplete, kLibraryName);
     EXPECT_EQ(0u, RunProbe(programs, planted.Path()));
 }

@@ -1,9 +1,10 @@
 #include "platform/Handles.h"
-#include "tests/frame/ImportPatch.h"
 #include "tests/frame/TranslationFixture.h"
+#include "tests/support/ImportPatch.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <algorithm>
 
 extern "C" void* __imp_GetFileSize;
@@ -31,7 +32,7 @@ protected:
         EXPECT_EQ(0u, localizer.Map.Count);
     }
 
-    CTemporaryFolder folder;
+    CTempFolder folder;
     CTavLocalizerWTL localizer;
 };
 

@@ -3,11 +3,12 @@
 
 #include "platform/os/Registry.h"
 #include "tests/frame/GuardedText.h"
-#include "tests/frame/ImportPatch.h"
+#include "tests/support/ImportPatch.h"
 #include "tests/support/RegistrySandbox.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <vector>
 
 extern "C" void* __imp_RegQueryValueExW;

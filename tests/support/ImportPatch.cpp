@@ -18,9 +18,13 @@ void Write(void** slot, void* address)
 } // namespace
 
 CImportPatch::CImportPatch(HMODULE module, const char* dll, const char* function, void* replacement)
-    : m_slot(FindImport(module, dll, function))
+    : CImportPatch(FindImport(module, dll, function), replacement)
 {
     EXPECT_NE(nullptr, m_slot) << dll << " " << function << " is not imported";
+}
+
+CImportPatch::CImportPatch(void** slot, void* replacement) : m_slot(slot)
+{
     if (!m_slot)
         return;
     m_original = *m_slot;

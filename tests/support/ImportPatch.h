@@ -17,6 +17,13 @@ public:
         : CImportPatch(module, dll, function, reinterpret_cast<void*>(replacement))
     {
     }
+    // The same for the test program itself: `slot` is the address of its import __imp_Function.
+    template <class Function>
+    CImportPatch(void** slot, Function* replacement)
+        : CImportPatch(slot, reinterpret_cast<void*>(replacement))
+    {
+    }
+    CImportPatch(void** slot, void* replacement);
     ~CImportPatch();
     CImportPatch(const CImportPatch&) = delete;
     CImportPatch& operator=(const CImportPatch&) = delete;

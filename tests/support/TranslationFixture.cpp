@@ -1,5 +1,7 @@
 #include "tests/support/TranslationFixture.h"
 
+#include "platform/Handles.h"
+
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -34,21 +36,28 @@ CTempFolder::~CTempFolder()
         while (FindNextFileW(search, &found));
         FindClose(search);
     }
-    RemoveDirectoryW(m_path.c_str());
+    EXPECT_TRUE(RemoveDirectoryW(m_path.c_str())) << "a file is still open";
+}
+
+std::wstring CTempFolder::Write(const wchar_t* name, const std::string& bytes) const
+{
+    const std::wstring path = m_path + L"\\" + name;
+    const UniqueFile file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    DWORD written = 0;
+    EXPECT_TRUE(
+        WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr));
+    return path;
+}
+
+std::string Utf16File(const std::wstring& text)
+{
+    return "\xFF\xFE" + std::string(reinterpret_cast<const char*>(text.data()), text.size() * 2);
 }
 
 std::wstring WriteTranslation(const CTempFolder& folder, const std::wstring& entries)
 {
-    const std::wstring path = folder.Path() + L"\\TavLumenar.txt";
-    const std::wstring text = L"\xFEFF" + entries;
-    const HANDLE file =
-        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD written = 0;
-    WriteFile(file, text.data(), static_cast<DWORD>(text.size() * sizeof(wchar_t)), &written,
-              nullptr);
-    CloseHandle(file);
-    EXPECT_EQ(text.size() * sizeof(wchar_t), written);
-    return path;
+    return folder.Write(L"TavLumenar.txt", Utf16File(entries));
 }
 
 void SetInstallFolder(CRegistrySandbox& registry, const CTempFolder& folder)

@@ -16,10 +16,15 @@ public:
 
     // Without a trailing backslash.
     const std::wstring& Path() const { return m_path; }
+    // Writes a file of these bytes; returns its path.
+    std::wstring Write(const wchar_t* name, const std::string& bytes) const;
 
 private:
     std::wstring m_path;
 };
+
+// The text as the bytes of a UTF-16 file with its mark.
+std::string Utf16File(const std::wstring& text);
 
 // Writes `entries`, lines of "English|translation", as the translation file "TavLumenar.txt" of
 // `folder`. Returns the file's path.
