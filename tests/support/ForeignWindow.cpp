@@ -28,8 +28,9 @@ CForeignWindow::~CForeignWindow()
 
 void CForeignWindow::Activate()
 {
+    m_wasInFront = false;
     PostMessageW(m_window, kComeForward, 0, 0);
-    EXPECT_TRUE(WaitUntil([this] { return GetForegroundWindow() == m_window; }));
+    EXPECT_TRUE(WaitUntil([this] { return m_wasInFront.load(); }));
 }
 
 void CForeignWindow::Run()
@@ -41,7 +42,7 @@ void CForeignWindow::Run()
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
     {
         if (message.message == kComeForward)
-            SetForegroundWindow(m_window);
+            m_wasInFront = SetForegroundWindow(m_window) != FALSE;
         if (message.message == kGo)
             break;
         DispatchMessageW(&message);

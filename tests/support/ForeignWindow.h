@@ -3,6 +3,7 @@
 
 #include "platform/Win.h"
 
+#include <atomic>
 #include <thread>
 
 // Lives from construction to destruction; small, in the corner of the screen.
@@ -15,7 +16,8 @@ public:
     CForeignWindow& operator=(const CForeignWindow&) = delete;
 
     HWND Window() const { return m_window; }
-    // Brings it to the front and waits until it is there.
+    // Brings it to the front and waits until it has been there: what closes in answer may give the
+    // foreground to its owner at once.
     void Activate();
 
 private:
@@ -23,5 +25,6 @@ private:
 
     HANDLE m_ready;
     HWND m_window = nullptr;
+    std::atomic<bool> m_wasInFront{false};
     std::thread m_thread;
 };
