@@ -65,7 +65,8 @@ INPUT MouseInput(POINT screen, DWORD flags)
     input.type = INPUT_MOUSE;
     input.mi.dx = (screen.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
     input.mi.dy = (screen.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
-    input.mi.dwFlags = flags | MOUSEEVENTF_ABSOLUTE;
+    // A button event without a move happens wherever the cursor is.
+    input.mi.dwFlags = flags | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
     return input;
 }
 
@@ -198,10 +199,28 @@ void HoldKey(WORD virtualKey, bool down)
     SendInput(1, &input, sizeof(INPUT));
 }
 
+void PlaceStylus(POINT screen)
+{
+    // How often in a row it has to be found there.
+    constexpr int kSteady = 10;
+    int found = 0;
+    EXPECT_TRUE(WaitUntil(
+        [&]
+        {
+            POINT now = {};
+            GetCursorPos(&now);
+            const bool isThere = now.x == screen.x && now.y == screen.y;
+            found = isThere ? found + 1 : 0;
+            if (!isThere)
+                SetCursorPos(screen.x, screen.y);
+            return found == kSteady;
+        }));
+}
+
 void TapScreen(POINT screen)
 {
-    INPUT inputs[] = {MouseInput(screen, MOUSEEVENTF_MOVE),
-                      MouseInput(screen, MOUSEEVENTF_LEFTDOWN),
+    PlaceStylus(screen);
+    INPUT inputs[] = {MouseInput(screen, MOUSEEVENTF_LEFTDOWN),
                       MouseInput(screen, MOUSEEVENTF_LEFTUP)};
-    SendInput(3, inputs, sizeof(INPUT));
+    SendInput(2, inputs, sizeof(INPUT));
 }

@@ -45,7 +45,7 @@ protected:
     // Holds the stylus on a point of the screen.
     void PressAt(POINT screen)
     {
-        SetCursorPos(screen.x, screen.y);
+        PlaceStylus(screen);
         Mouse(MOUSEEVENTF_LEFTDOWN);
     }
 };
