@@ -1,5 +1,8 @@
 #include "platform/aygshell/StylusControls.h"
 
+#include <new>
+#include <unordered_map>
+
 #include "aygshell.h"
 
 #include "platform/aygshell/Gesture.h"
@@ -12,14 +15,75 @@ namespace shell
 namespace
 {
 
-constexpr UINT_PTR kStylusSubclass = 4;
-
-enum Kind : DWORD_PTR
+enum Kind
 {
     Other,
     Tree,
     List
 };
+
+// A control with these manners and the procedure that it had before.
+struct Control
+{
+    Kind kind;
+    WNDPROC procedure;
+};
+
+// All of them. Looked up here and not in the system's own list of subclasses, where a look-up costs
+// more than a tree takes to insert a node.
+class CControls
+{
+public:
+    // Returns false for a control that is there already, and without memory for another one.
+    bool Add(HWND window, const Control& control)
+    {
+        const CLock lock(m_lock);
+        try
+        {
+            return m_controls.emplace(window, control).second;
+        }
+        catch (const std::bad_alloc&)
+        {
+            return false;
+        }
+    }
+    void Remove(HWND window)
+    {
+        const CLock lock(m_lock);
+        m_controls.erase(window);
+    }
+    // The default procedure and no manners for a window that isn't there.
+    Control Find(HWND window)
+    {
+        const CLock lock(m_lock);
+        const auto found = m_controls.find(window);
+        return found != m_controls.end() ? found->second : Control{Other, DefWindowProcW};
+    }
+
+private:
+    class CLock
+    {
+    public:
+        explicit CLock(SRWLOCK& lock) : m_lock(lock) { AcquireSRWLockExclusive(&m_lock); }
+        ~CLock() { ReleaseSRWLockExclusive(&m_lock); }
+        CLock(const CLock&) = delete;
+        CLock& operator=(const CLock&) = delete;
+
+    private:
+        SRWLOCK& m_lock;
+    };
+
+    SRWLOCK m_lock = SRWLOCK_INIT;
+    std::unordered_map<HWND, Control> m_controls;
+};
+
+CControls g_controls;
+
+// What the control would do without its manners.
+LRESULT Default(HWND control, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallWindowProcW(g_controls.Find(control).procedure, control, message, wParam, lParam);
+}
 
 // How far a level of a tree is set in, in logical pixels; desktops don't scale it.
 constexpr int kTreeIndent = 19;
@@ -105,7 +169,7 @@ LRESULT OnPress(HWND control, UINT message, WPARAM wParam, LPARAM lParam, Kind k
         RequestMenuAt(control, point);
         return 0;
     }
-    return IsWindow(control) ? DefSubclassProc(control, message, wParam, lParam) : 0;
+    return IsWindow(control) ? Default(control, message, wParam, lParam) : 0;
 }
 
 // A desktop's right button is a tap-and-hold that needs no waiting.
@@ -137,17 +201,25 @@ bool TakeMenuKey(HWND control, UINT message, WPARAM key, LPARAM lParam)
 // Enter belongs to trees, not to the dialog's default button.
 LRESULT DialogCode(HWND tree, WPARAM wParam, LPARAM lParam)
 {
-    const LRESULT code = DefSubclassProc(tree, WM_GETDLGCODE, wParam, lParam);
+    const LRESULT code = Default(tree, WM_GETDLGCODE, wParam, lParam);
     const MSG* message = reinterpret_cast<const MSG*>(lParam);
     const bool isEnter =
         message != nullptr && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
     return isEnter ? code | DLGC_WANTMESSAGE : code;
 }
 
-LRESULT CALLBACK StylusProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                            DWORD_PTR kindValue)
+// The control's last message: its own procedure gets it with nothing in front of it.
+LRESULT OnGone(HWND control, const Control& before, WPARAM wParam, LPARAM lParam)
 {
-    const Kind kind = static_cast<Kind>(kindValue);
+    g_controls.Remove(control);
+    SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before.procedure));
+    return CallWindowProcW(before.procedure, control, WM_NCDESTROY, wParam, lParam);
+}
+
+LRESULT CALLBACK StylusProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const Control before = g_controls.Find(control);
+    const Kind kind = before.kind;
     switch (message)
     {
     case WM_LBUTTONDOWN:
@@ -174,10 +246,9 @@ LRESULT CALLBACK StylusProc(HWND control, UINT message, WPARAM wParam, LPARAM lP
             return 0;
         break;
     case WM_NCDESTROY:
-        RemoveWindowSubclass(control, StylusProc, id);
-        break;
+        return OnGone(control, before, wParam, lParam);
     }
-    return DefSubclassProc(control, message, wParam, lParam);
+    return CallWindowProcW(before.procedure, control, message, wParam, lParam);
 }
 
 } // namespace
@@ -185,8 +256,11 @@ LRESULT CALLBACK StylusProc(HWND control, UINT message, WPARAM wParam, LPARAM lP
 void GiveStylusManners(HWND control)
 {
     const Kind kind = KindOf(control);
-    if (kind != Other)
-        SetWindowSubclass(control, StylusProc, kStylusSubclass, kind);
+    if (kind == Other)
+        return;
+    const LONG_PTR procedure = GetWindowLongPtrW(control, GWLP_WNDPROC);
+    if (g_controls.Add(control, {kind, reinterpret_cast<WNDPROC>(procedure)}))
+        SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(StylusProc));
     if (kind == Tree)
         TreeView_SetIndent(control, Scaled(kTreeIndent));
 }
