@@ -199,6 +199,11 @@ void HoldKey(WORD virtualKey, bool down)
     SendInput(1, &input, sizeof(INPUT));
 }
 
+bool IsKeyDown(WORD virtualKey)
+{
+    return (GetAsyncKeyState(virtualKey) & 0x8000) != 0;
+}
+
 void PlaceStylus(POINT screen)
 {
     // How often in a row it has to be found there.

@@ -68,6 +68,8 @@ void PostCommand(HWND dialog, UINT id);
 void PressKey(WORD virtualKey);
 // Presses a key without releasing it, or releases it.
 void HoldKey(WORD virtualKey, bool down);
+// Whether the system takes the key as pressed now.
+bool IsKeyDown(WORD virtualKey);
 // Puts the stylus over a point of the screen without touching it, and waits until it stays there:
 // the display server may still be reporting an earlier place.
 void PlaceStylus(POINT screen);

@@ -183,9 +183,23 @@ TEST_F(EnterKey, ReallyHeldDownSwitchesNothing)
 {
     Open();
     Select(L"Programs/Calendar");
-    HoldKey(VK_RETURN, true);
-    // Longer than a hold takes to be recognised.
-    EXPECT_FALSE(WaitUntil([&] { return BoxOf(L"Programs/Calendar") == BoxOff; }, 1200));
-    HoldKey(VK_RETURN, false);
-    EXPECT_EQ(static_cast<UINT>(BoxOn), BoxOf(L"Programs/Calendar"));
+    // The display server takes a key as released when it hands the focus over behind the press:
+    // that was a tap, and the key has to be held again.
+    bool wasHeld = false;
+    for (int attempt = 0; attempt < 5 && !wasHeld; ++attempt)
+    {
+        const UINT before = BoxOf(L"Programs/Calendar");
+        HoldKey(VK_RETURN, true);
+        // Longer than a hold takes to be recognised.
+        WaitUntil([] { return !IsKeyDown(VK_RETURN); }, 1200);
+        wasHeld = IsKeyDown(VK_RETURN);
+        HoldKey(VK_RETURN, false);
+        // Answered when whatever the key started is over.
+        SendMessageW(dialog, WM_NULL, 0, 0);
+        if (wasHeld)
+        {
+            EXPECT_EQ(before, BoxOf(L"Programs/Calendar"));
+        }
+    }
+    EXPECT_TRUE(wasHeld);
 }

@@ -1,5 +1,6 @@
 // SHRecognizeGesture: holds of the stylus and of the Action key.
 #include "tests/platform/aygshell/TestDialog.h"
+#include "tests/support/DialogRun.h"
 
 #include <thread>
 
@@ -111,8 +112,18 @@ TEST_F(Gesture, AMovedStylusIsNone)
 
 TEST_F(Gesture, AHeldActionKeyIsATapAndHold)
 {
-    SendKey(VK_RETURN, 0);
-    EXPECT_EQ(Recognise(), GN_CONTEXTMENU);
+    // The display server takes a key as released when it hands the focus over behind the press:
+    // then the key has to be held again.
+    DWORD result = 0;
+    bool wasHeld = false;
+    for (int attempt = 0; attempt < 5 && !wasHeld; ++attempt)
+    {
+        SendKey(VK_RETURN, 0);
+        result = Recognise();
+        wasHeld = IsKeyDown(VK_RETURN);
+    }
+    EXPECT_TRUE(wasHeld);
+    EXPECT_EQ(result, GN_CONTEXTMENU);
     EXPECT_GE(took, 690u);
 }
 
