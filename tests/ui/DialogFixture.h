@@ -30,3 +30,19 @@ protected:
     UniqueWindow owner{CreateWindowExW(0, L"Static", L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 240,
                                        240, nullptr, nullptr, nullptr, nullptr)};
 };
+
+// The client area of a window, and the place of a control in its dialog's client area.
+inline RECT ClientOf(HWND window)
+{
+    RECT rect = {};
+    GetClientRect(window, &rect);
+    return rect;
+}
+
+inline RECT RectInParent(HWND control)
+{
+    RECT rect = {};
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}

@@ -1,13 +1,12 @@
-// The dialog base: start-up in its steps, the messages that every dialog answers, how one ends.
+// The dialog base: start-up in its steps, and how a dialog ends.
 #include "frame/Localizer.h"
 #include "tests/support/ImportPatch.h"
-#include "tests/support/Pixels.h"
 #include "tests/support/TranslationFixture.h"
 #include "tests/ui/DialogFixture.h"
-#include "tests/ui/ProcessPatch.h"
 #include "ui/DialogFonts.h"
 
-#include <climits>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -20,21 +19,6 @@ class PPCDialog : public DialogFixture
 class PPCDialogGeometry : public DialogFixture
 {
 };
-
-RECT ClientOf(HWND window)
-{
-    RECT rect = {};
-    GetClientRect(window, &rect);
-    return rect;
-}
-
-RECT RectInParent(HWND control)
-{
-    RECT rect = {};
-    GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
 
 std::wstring TextOf(HWND window)
 {
@@ -200,168 +184,6 @@ TEST_F(PPCDialogGeometry, TheMainControlIsFittedAtStartUp)
         });
 }
 
-TEST_F(PPCDialogGeometry, ARotatedScreenFitsTheMainControlAgain)
-{
-    CTestDialog dialog;
-    dialog.onInit = [&](HWND window) { dialog.MainControl = GetDlgItem(window, IDC_MAIN); };
-    Run(dialog,
-        [&](HWND window)
-        {
-            SetWindowPos(window, nullptr, 0, 0, 150, 140, SWP_NOMOVE | SWP_NOZORDER);
-            EXPECT_EQ(0, SendMessageW(window, WM_SETTINGCHANGE, 0x3002, 0));
-            EXPECT_EQ(ClientOf(window).right, RectInParent(dialog.MainControl).right);
-            EXPECT_EQ(ClientOf(window).bottom, RectInParent(dialog.MainControl).bottom);
-        });
-}
-
-TEST_F(PPCDialog, AnyOtherSettingFitsNothing)
-{
-    CTestDialog dialog;
-    dialog.onInit = [&](HWND window) { dialog.MainControl = GetDlgItem(window, IDC_MAIN); };
-    Run(dialog,
-        [&](HWND)
-        {
-            MoveWindow(dialog.MainControl, 5, 60, 30, 30, FALSE);
-            dialog.Offer(WM_SETTINGCHANGE, 0x3001);
-            dialog.Offer(WM_SETTINGCHANGE, 0);
-            EXPECT_EQ(35, RectInParent(dialog.MainControl).right);
-        });
-}
-
-TEST_F(PPCDialog, EverySettingIsAnsweredWithZero)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND)
-        {
-            for (const WPARAM setting : {0x3002u, 0u, 47u, 0xFFFFFFFFu})
-            {
-                EXPECT_TRUE(dialog.Offer(WM_SETTINGCHANGE, setting));
-                EXPECT_EQ(0, dialog.offeredResult);
-            }
-        });
-}
-
-TEST_F(PPCDialog, ASettingsTextIsNeverLookedAt)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND)
-        {
-            for (const WPARAM setting : {0x3002u, 0u})
-                EXPECT_TRUE(dialog.Offer(WM_SETTINGCHANGE, setting, 4));
-        });
-}
-
-TEST_F(PPCDialog, ErasingItsBackgroundEnablesTheOwner)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND)
-        {
-            EnableWindow(owner.get(), FALSE);
-            EXPECT_FALSE(dialog.Offer(WM_ERASEBKGND, 0)) << "left to default processing";
-            EXPECT_TRUE(IsWindowEnabled(owner.get()));
-        });
-}
-
-TEST_F(PPCDialog, ErasingWithoutAnOwnerDoesNothing)
-{
-    owner.reset();
-    CTestDialog dialog;
-    EXPECT_EQ(IDOK, Run(dialog, [&](HWND) { EXPECT_FALSE(dialog.Offer(WM_ERASEBKGND, 0)); }));
-}
-
-namespace
-{
-
-// What the dialog has to repaint after the scroll message with `position`; empty for nothing.
-RECT RepaintedBy(CTestDialog& dialog, HWND window, int position)
-{
-    UpdateWindow(window);
-    EXPECT_EQ(0, SendMessageW(window, dialog.ScrollMessage, static_cast<WPARAM>(position), 0));
-    RECT rect = {};
-    GetUpdateRect(window, &rect, FALSE);
-    ValidateRect(window, nullptr);
-    return rect;
-}
-
-} // namespace
-
-TEST_F(PPCDialogGeometry, TheScrollMessageRepaintsWhatIsLeftOfTheBand)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND window)
-        {
-            const RECT whole = RepaintedBy(dialog, window, Px(5));
-            EXPECT_EQ(0, whole.left);
-            EXPECT_EQ(0, whole.top);
-            EXPECT_EQ(ClientOf(window).right, whole.right);
-            EXPECT_EQ(Px(24), whole.bottom);
-            // Scrolling back, the band reaches further down than it does now.
-            EXPECT_EQ(Px(28), RepaintedBy(dialog, window, -Px(4)).bottom);
-        });
-}
-
-TEST_F(PPCDialog, TheScrollMessageForTheSamePlaceRepaintsNothing)
-{
-    CTestDialog dialog;
-    Run(dialog, [&](HWND window) { EXPECT_EQ(0, RepaintedBy(dialog, window, 0).bottom); });
-}
-
-TEST_F(PPCDialog, TheScrollMessageErasesWhatItRepaints)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND window)
-        {
-            UpdateWindow(window);
-            EnableWindow(owner.get(), FALSE);
-            SendMessageW(window, dialog.ScrollMessage, 5, 0);
-            UpdateWindow(window);
-            // Erasing is what enables the owner.
-            EXPECT_TRUE(IsWindowEnabled(owner.get()));
-        });
-}
-
-TEST_F(PPCDialog, AForgedScrollMessageIsHarmless)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND window)
-        {
-            EXPECT_EQ(ClientOf(window).bottom, RepaintedBy(dialog, window, INT_MIN).bottom);
-            EXPECT_EQ(Px(24), RepaintedBy(dialog, window, INT_MAX).bottom);
-        });
-}
-
-TEST_F(PPCDialog, BeforeTheScrollMessageIsKnownNoMessageIsTakenForIt)
-{
-    CTestDialog dialog;
-    EXPECT_FALSE(dialog.Offer(WM_NULL, 5));
-}
-
-TEST_F(PPCDialog, HelpOpensTheDialogsTopic)
-{
-    const CProcessPatch processes;
-    CTestDialog dialog;
-    dialog.topic = L"Chapter";
-    Run(dialog, [](HWND window) { SendMessageW(window, WM_HELP, 0, 0); });
-    ASSERT_EQ(1u, processes.Started().size());
-    EXPECT_EQ(L"TavLumenar.htm#Chapter", processes.Started()[0].commandLine);
-}
-
-TEST_F(PPCDialog, HelpWithoutATopicOpensTheMainContents)
-{
-    const CProcessPatch processes;
-    CTestDialog dialog;
-    // The structure that comes with the message is not looked at.
-    Run(dialog, [](HWND window) { SendMessageW(window, WM_HELP, 0, 4); });
-    ASSERT_EQ(1u, processes.Started().size());
-    EXPECT_EQ(L"TavLumenar.htm#Main_Contents", processes.Started()[0].commandLine);
-}
-
 TEST_F(PPCDialog, DoneIsTheDialogsOwnMatter)
 {
     CTestDialog dialog;
@@ -420,36 +242,4 @@ TEST_F(PPCDialog, ATemplateWithoutFirstEntriesIsNoError)
 {
     CPlainDialog dialog;
     EXPECT_EQ(IDOK, Run(dialog, [](HWND) {}));
-}
-
-TEST_F(PPCDialog, ANotificationOfAnOwnControlIsTaken)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND window)
-        {
-            NMHDR header = {};
-            header.hwndFrom = GetDlgItem(window, IDC_MAIN);
-            header.code = static_cast<UINT>(NM_CLICK);
-            EXPECT_TRUE(dialog.Offer(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)));
-        });
-}
-
-TEST_F(PPCDialog, AForgedNotificationIsNotTaken)
-{
-    CTestDialog dialog;
-    Run(dialog,
-        [&](HWND window)
-        {
-            for (const LPARAM forged : {LPARAM(0), LPARAM(4), LPARAM(-1), LPARAM(0x7FFF00000000)})
-                EXPECT_FALSE(dialog.Offer(WM_NOTIFY, 0, forged)) << forged;
-            NMHDR header = {};
-            header.code = static_cast<UINT>(NM_CLICK);
-            for (const HWND foreign : {static_cast<HWND>(nullptr), window, GetDesktopWindow(),
-                                       reinterpret_cast<HWND>(static_cast<INT_PTR>(0x7FFF1234))})
-            {
-                header.hwndFrom = foreign;
-                EXPECT_FALSE(dialog.Offer(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)));
-            }
-        });
 }
