@@ -64,8 +64,22 @@ LRESULT CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
     return DefSubclassProc(dialog, message, wParam, lParam);
 }
 
+// Desktop systems make a sunken edge of a template's border, which is two pixels wide; the
+// handheld's is a plain line.
+void GivePlainBorder(HWND control)
+{
+    const LONG_PTR extended = GetWindowLongPtrW(control, GWL_EXSTYLE);
+    if ((extended & WS_EX_CLIENTEDGE) == 0)
+        return;
+    SetWindowLongPtrW(control, GWL_EXSTYLE, extended & ~static_cast<LONG_PTR>(WS_EX_CLIENTEDGE));
+    SetWindowLongPtrW(control, GWL_STYLE, GetWindowLongPtrW(control, GWL_STYLE) | WS_BORDER);
+    SetWindowPos(control, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
 BOOL CALLBACK GiveManners(HWND control, LPARAM /*unused*/)
 {
+    GivePlainBorder(control);
     GiveStylusManners(control);
     return TRUE;
 }

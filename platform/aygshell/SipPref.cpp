@@ -13,12 +13,14 @@ namespace
 
 constexpr UINT_PTR kPreferenceSubclass = 5;
 
-// To the control: the focus has moved. Posted, so that the step from one edit control to the next
-// leaves the panel where it is.
-constexpr UINT kFocusMoved = WM_USER + 1;
+// The panel follows the focus so much later, in milliseconds: the step from one edit control to the
+// next leaves it where it is, and a dialog that was just shown has come to the front by then, which
+// would cover a panel that is up already.
+constexpr UINT kFollowDelay = 30;
+constexpr UINT_PTR kFollowTimer = 1;
 
 // To the control itself, after its creation: be invisible whatever the template says.
-constexpr UINT kHide = WM_USER + 2;
+constexpr UINT kHide = WM_USER + 1;
 
 // Whether text can be typed into the window: an edit control that isn't read-only.
 bool TakesText(HWND window)
@@ -29,8 +31,13 @@ bool TakesText(HWND window)
     return (GetWindowLongPtrW(window, GWL_STYLE) & ES_READONLY) == 0;
 }
 
+// A dialog that is still to be shown gets its panel when it is.
 void FollowFocus(HWND preference)
 {
+    if (!IsWindowVisible(GetParent(preference)))
+        return;
+    // What the display has to say is heard before, even when the thread was busy all the while.
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, 0, QS_ALLINPUT);
     const HWND focus = GetFocus();
     const bool inDialog = focus != nullptr && IsChild(GetParent(preference), focus);
     SetInputPanel(inDialog && TakesText(focus));
@@ -40,8 +47,10 @@ LRESULT CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
                             DWORD_PTR preference)
 {
     const UINT code = HIWORD(wParam);
-    if (message == WM_COMMAND && lParam != 0 && (code == EN_SETFOCUS || code == EN_KILLFOCUS))
-        PostMessageW(reinterpret_cast<HWND>(preference), kFocusMoved, 0, 0);
+    const bool shown = message == WM_SHOWWINDOW && wParam != FALSE;
+    if (shown ||
+        (message == WM_COMMAND && lParam != 0 && (code == EN_SETFOCUS || code == EN_KILLFOCUS)))
+        SetTimer(reinterpret_cast<HWND>(preference), kFollowTimer, kFollowDelay, nullptr);
     if (message == WM_NCDESTROY)
         RemoveWindowSubclass(dialog, DialogProc, id);
     return DefSubclassProc(dialog, message, wParam, lParam);
@@ -59,7 +68,8 @@ LRESULT CALLBACK PreferenceProc(HWND preference, UINT message, WPARAM wParam, LP
     case kHide:
         ShowWindow(preference, SW_HIDE);
         return 0;
-    case kFocusMoved:
+    case WM_TIMER:
+        KillTimer(preference, kFollowTimer);
         FollowFocus(preference);
         return 0;
     case WM_DESTROY:

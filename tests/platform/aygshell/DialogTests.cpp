@@ -176,3 +176,20 @@ TEST(InitDialog, TheSecondCallTakesThePlaceOfTheFirst)
     SendMessageW(dialog.Window(), WM_SETTINGCHANGE, kScreenReset, 0);
     EXPECT_EQ(dialog.Count(WM_SETTINGCHANGE), 1);
 }
+
+TEST(InitDialog, ATemplatesBorderIsAPlainLine)
+{
+    constexpr WORD kBordered = 201;
+    constexpr WORD kBare = 202;
+    CTestDialog dialog(
+        {{L"Edit", WS_BORDER, kBordered, 0, 0, 40, 10}, {L"Edit", 0, kBare, 0, 12, 40, 10}});
+    ASSERT_TRUE(dialog.InitDialog());
+    RECT window = ScreenRectOf(dialog.Control(kBordered));
+    RECT client = {};
+    GetClientRect(dialog.Control(kBordered), &client);
+    EXPECT_EQ(client.right, window.right - window.left - 2);
+    EXPECT_EQ(client.bottom, window.bottom - window.top - 2);
+    window = ScreenRectOf(dialog.Control(kBare));
+    GetClientRect(dialog.Control(kBare), &client);
+    EXPECT_EQ(client.right, window.right - window.left);
+}

@@ -62,6 +62,14 @@ void UseOften(int times)
         UseOnce();
 }
 
+void SwitchPanel(DWORD state)
+{
+    SIPINFO info{};
+    info.cbSize = sizeof info;
+    info.fdwFlags = state;
+    EXPECT_TRUE(SHSipInfo(SPI_SETSIPINFO, 0, &info, 0));
+}
+
 bool SameObjects(ResourceCounts left, const ResourceCounts& right)
 {
     left.heapBytes = right.heapBytes;
@@ -99,6 +107,9 @@ TEST(Library, ExportsTheSixFunctionsByTheirPlainNamesAndNothingElse)
 
 TEST(Library, TwoHundredDialogsLeaveNothingBehind)
 {
+    // The panel keeps its fonts and brushes once it was up.
+    SwitchPanel(SIPF_ON);
+    SwitchPanel(SIPF_OFF);
     UseOften(20);
     const ResourceCounts settled = CountWhenQuiet();
     UseOften(200);

@@ -329,14 +329,31 @@ protected:
     }
     ~InputPreference() override { SetPanel(false); }
 
-    void Focus(int id)
+    void Focus(int id) { SetFocus(dialog.Control(id)); }
+
+    // Waits until the panel is up or down.
+    bool Becomes(bool up)
     {
-        SetFocus(dialog.Control(id));
-        dialog.RunPending();
+        return dialog.RunUntil([up] { return IsOn() == up; });
+    }
+
+    // Long enough for the panel to follow a step of the focus.
+    void RunForAWhile()
+    {
+        dialog.RunUntil([end = GetTickCount64() + 100] { return GetTickCount64() > end; });
     }
 
     CTestDialog dialog;
 };
+
+// What a person sees at a point of the screen.
+COLORREF PixelAt(POINT point)
+{
+    const HDC screen = GetDC(nullptr);
+    const COLORREF colour = GetPixel(screen, point.x, point.y);
+    ReleaseDC(nullptr, screen);
+    return colour;
+}
 
 } // namespace
 
@@ -353,14 +370,15 @@ TEST_F(InputPreference, AnEditControlWithTheFocusRaisesThePanel)
 {
     EXPECT_FALSE(IsOn());
     Focus(kEditId);
-    EXPECT_TRUE(IsOn());
+    EXPECT_TRUE(Becomes(true));
 }
 
 TEST_F(InputPreference, LosingTheFocusLowersThePanel)
 {
     Focus(kEditId);
+    ASSERT_TRUE(Becomes(true));
     Focus(kButtonId);
-    EXPECT_FALSE(IsOn());
+    EXPECT_TRUE(Becomes(false));
 }
 
 TEST_F(InputPreference, FromOneEditControlToTheNextThePanelStays)
@@ -368,26 +386,52 @@ TEST_F(InputPreference, FromOneEditControlToTheNextThePanelStays)
     Focus(kEditId);
     ASSERT_TRUE(dialog.RunUntil([this] { return dialog.Count(WM_SETTINGCHANGE) == 1; }));
     Focus(kOtherEditId);
+    RunForAWhile();
     EXPECT_TRUE(IsOn());
-    dialog.RunUntil([end = GetTickCount64() + 100] { return GetTickCount64() > end; });
     EXPECT_EQ(dialog.Count(WM_SETTINGCHANGE), 1);
 }
 
 TEST_F(InputPreference, AReadOnlyEditControlNeedsNoPanel)
 {
     Focus(kReadOnlyId);
+    RunForAWhile();
     EXPECT_FALSE(IsOn());
     Focus(kEditId);
+    ASSERT_TRUE(Becomes(true));
     Focus(kReadOnlyId);
-    EXPECT_FALSE(IsOn());
+    EXPECT_TRUE(Becomes(false));
 }
 
 TEST_F(InputPreference, TheEndOfTheDialogLowersThePanel)
 {
     Focus(kEditId);
-    ASSERT_TRUE(IsOn());
+    ASSERT_TRUE(Becomes(true));
     dialog.Destroy();
     EXPECT_FALSE(IsOn());
+}
+
+TEST_F(InputPreference, ADialogThatIsStillToBeShownGetsItsPanelWhenItIs)
+{
+    ShowWindow(dialog.Window(), SW_HIDE);
+    Focus(kEditId);
+    RunForAWhile();
+    EXPECT_FALSE(IsOn());
+    ShowWindow(dialog.Window(), SW_SHOW);
+    EXPECT_TRUE(Becomes(true));
+}
+
+TEST(InputPreferenceAtStart, TheDialogDoesNotCoverItsKeyboard)
+{
+    CTestDialog dialog(kEditsAndPreference);
+    dialog.InitDialog();
+    SetFocus(dialog.Control(kEditId));
+    dialog.Open();
+    // A key's tile, left of its letter, and the dialog around it have different colours.
+    const RECT panel = ExpectedPanel();
+    const POINT key = {panel.left + Scaled(2), panel.top + Scaled(6)};
+    ASSERT_NE(GetSysColor(COLOR_WINDOW), GetSysColor(COLOR_BTNFACE));
+    EXPECT_TRUE(dialog.RunUntil([key] { return PixelAt(key) == GetSysColor(COLOR_WINDOW); }));
+    SetPanel(false);
 }
 
 TEST_F(InputPanel, WithoutThePreferenceTheFocusChangesNothing)
@@ -395,6 +439,6 @@ TEST_F(InputPanel, WithoutThePreferenceTheFocusChangesNothing)
     CTestDialog dialog({{L"Edit", WS_TABSTOP, kEditId, 0, 12, 40, 10}});
     dialog.Open();
     SetFocus(dialog.Control(kEditId));
-    dialog.RunPending();
+    dialog.RunUntil([end = GetTickCount64() + 100] { return GetTickCount64() > end; });
     EXPECT_FALSE(IsOn());
 }
