@@ -15,7 +15,9 @@ void ThrowInvalidArgument()
     throw CTavException(kTavInvalidArgument);
 }
 
+#ifdef _WIN32
 void ThrowLastError()
 {
     throw CTavException(HResultOfError(GetLastError()));
 }
+#endif

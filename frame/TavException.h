@@ -2,7 +2,7 @@
 // it leaves the export that was called.
 #pragma once
 
-#include "platform/Win.h"
+#include "platform/HResult.h"
 
 // Thrown by value. Carries one HRESULT-style code.
 class CTavException
@@ -34,5 +34,7 @@ constexpr HRESULT HResultOfError(DWORD error)
 [[noreturn]] void ThrowOutOfMemory();
 // Throws 0x80070057.
 [[noreturn]] void ThrowInvalidArgument();
+#ifdef _WIN32
 // Throws the code of GetLastError(); call it directly behind the call that failed.
 [[noreturn]] void ThrowLastError();
+#endif

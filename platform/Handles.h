@@ -73,6 +73,12 @@ struct Kernel : Nullable<HANDLE>
     static void Close(HANDLE object) { CloseHandle(object); }
 };
 
+// A block from LocalAlloc.
+struct Local : Nullable<HLOCAL>
+{
+    static void Close(HLOCAL block) { LocalFree(block); }
+};
+
 struct MemoryDc : Nullable<HDC>
 {
     static void Close(HDC dc) { DeleteDC(dc); }
@@ -114,6 +120,7 @@ struct Window : Nullable<HWND>
 using UniqueFile = CUnique<handles::File>;
 // A mutex, event, process or thread handle.
 using UniqueKernelHandle = CUnique<handles::Kernel>;
+using UniqueLocal = CUnique<handles::Local>;
 using UniqueMemoryDc = CUnique<handles::MemoryDc>;
 // From GetDC(nullptr).
 using UniqueScreenDc = CUnique<handles::ScreenDc>;

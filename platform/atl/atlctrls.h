@@ -113,6 +113,74 @@ private:
     static HTREEITEM Item(LRESULT result) { return reinterpret_cast<HTREEITEM>(result); }
 };
 
+// A list view.
+class CListViewCtrl : public ATL::CWindow
+{
+public:
+    explicit CListViewCtrl(HWND window = nullptr) : CWindow(window) {}
+
+    int InsertColumn(int index, const LVCOLUMNW& column)
+    {
+        return static_cast<int>(SendMessage(LVM_INSERTCOLUMNW, static_cast<WPARAM>(index),
+                                            reinterpret_cast<LPARAM>(&column)));
+    }
+    int GetColumnWidth(int index) const
+    {
+        return static_cast<int>(SendMessage(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
+    }
+    BOOL SetColumnWidth(int index, int width)
+    {
+        return static_cast<BOOL>(
+            SendMessage(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(index), MAKELPARAM(width, 0)));
+    }
+    DWORD GetExtendedListViewStyle() const
+    {
+        return static_cast<DWORD>(SendMessage(LVM_GETEXTENDEDLISTVIEWSTYLE));
+    }
+    // Sets the bits of `mask` to those of `style`.
+    void SetExtendedListViewStyle(DWORD style, DWORD mask)
+    {
+        SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, mask, static_cast<LPARAM>(style));
+    }
+    int GetItemCount() const { return static_cast<int>(SendMessage(LVM_GETITEMCOUNT)); }
+    BOOL SetItemCount(int count)
+    {
+        return static_cast<BOOL>(SendMessage(LVM_SETITEMCOUNT, static_cast<WPARAM>(count)));
+    }
+    // An item of -1 stands for all items.
+    BOOL SetItemState(int item, UINT state, UINT mask)
+    {
+        LVITEMW change = {};
+        change.state = state;
+        change.stateMask = mask;
+        return static_cast<BOOL>(SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(item),
+                                             reinterpret_cast<LPARAM>(&change)));
+    }
+    int GetNextItem(int item, UINT flags) const
+    {
+        return static_cast<int>(
+            SendMessage(LVM_GETNEXTITEM, static_cast<WPARAM>(item), MAKELPARAM(flags, 0)));
+    }
+    UINT GetSelectedCount() const { return static_cast<UINT>(SendMessage(LVM_GETSELECTEDCOUNT)); }
+    int GetSelectionMark() const { return static_cast<int>(SendMessage(LVM_GETSELECTIONMARK)); }
+    int SetSelectionMark(int item)
+    {
+        return static_cast<int>(SendMessage(LVM_SETSELECTIONMARK, 0, item));
+    }
+    BOOL EnsureVisible(int item, BOOL partialIsEnough)
+    {
+        return static_cast<BOOL>(
+            SendMessage(LVM_ENSUREVISIBLE, static_cast<WPARAM>(item), partialIsEnough));
+    }
+    BOOL GetItemRect(int item, RECT& rect, int part) const
+    {
+        rect.left = part;
+        return static_cast<BOOL>(SendMessage(LVM_GETITEMRECT, static_cast<WPARAM>(item),
+                                             reinterpret_cast<LPARAM>(&rect)));
+    }
+    void SetRedraw(BOOL redraw) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
+};
+
 // A push button, check box or radio button.
 class CButton : public ATL::CWindow
 {
@@ -126,4 +194,5 @@ public:
 } // namespace WTL
 
 using WTL::CButton;
+using WTL::CListViewCtrl;
 using WTL::CTreeViewCtrl;

@@ -21,6 +21,7 @@ public:
         CharLowerBuffW(m_lower.data(), static_cast<DWORD>(m_lower.size()));
     }
     wchar_t operator[](wchar_t unit) const { return m_lower[unit]; }
+    const wchar_t* Data() const { return m_lower.data(); }
 
 private:
     std::array<wchar_t, 0x10000> m_lower;
@@ -37,6 +38,11 @@ const CFoldTable& Table()
 wchar_t FoldCase(wchar_t unit)
 {
     return Table()[unit];
+}
+
+const wchar_t* FoldTable()
+{
+    return Table().Data();
 }
 
 std::wstring FoldCase(std::wstring_view text)

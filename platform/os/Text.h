@@ -10,6 +10,9 @@ namespace os
 // The lower-case form of one code unit, as the system's CharLowerBuffW gives it.
 wchar_t FoldCase(wchar_t unit);
 
+// The lower-case forms of all 65,536 code units, for loops that can't afford a call per unit.
+const wchar_t* FoldTable();
+
 // The text with every code unit folded.
 std::wstring FoldCase(std::wstring_view text);
 
