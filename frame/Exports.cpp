@@ -1,6 +1,7 @@
 // The five functions that a host calls: where an export meets its dialog.
 #include "include/TavLumenarDialogs.h"
 
+#include "dialogs/city/SelectCityDlg.h"
 #include "dialogs/menu/CustomizeMenuDlg.h"
 
 namespace
@@ -21,6 +22,18 @@ BOOL WINAPI CustomizeMenu(HWND owner, DWORD /*unused2*/, DWORD /*unused3*/, DWOR
     return RunConfirmed(dialog, owner);
 }
 
+// The host's record is touched only when a city was confirmed.
+BOOL WINAPI SelectCity(HWND owner, CITYINFO* city, DWORD /*unused3*/)
+{
+    if (!city)
+        return FALSE;
+    CSelectCityDlg dialog(*city);
+    if (!RunConfirmed(dialog, owner))
+        return FALSE;
+    *city = dialog.City;
+    return TRUE;
+}
+
 // The dialogs below are still to come: their exports return at once.
 
 BOOL WINAPI CustomizeHome(HWND /*owner*/, DWORD /*maxPinned*/, DWORD /*unused3*/, DWORD /*unused4*/)
@@ -35,11 +48,6 @@ BOOL WINAPI CustomizeNow(HWND /*owner*/, DWORD /*unused2*/, DWORD /*unused3*/, D
 
 BOOL WINAPI InstallWizard(DWORD /*unused1*/, DWORD /*unused2*/, DWORD /*unused3*/,
                           DWORD /*unused4*/)
-{
-    return FALSE;
-}
-
-BOOL WINAPI SelectCity(HWND /*owner*/, CITYINFO* /*city*/, DWORD /*unused3*/)
 {
     return FALSE;
 }

@@ -4,6 +4,7 @@
 
 /* Dialog templates. */
 #define IDD_CUSTOMIZE_MENU 9
+#define IDD_SELECT_CITY 201
 #define IDD_MENU_OPTIONS 209
 
 /* Menus that soft-key bars are made from. */
@@ -23,6 +24,10 @@
 /* Controls of Customize Menu. */
 #define IDC_MENU_TREE 203
 
+/* Controls of Select City. */
+#define IDC_CITY_SEARCH 201
+#define IDC_CITY_LIST 202
+
 /* Controls of Menu Options. */
 #define IDC_LAYOUT_LIST 210
 #define IDC_LAYOUT_GRID 211
@@ -30,6 +35,9 @@
 #define IDC_HARDWARE_NAVIGATION 213
 #define IDC_LAYOUT_HEADING 214
 #define IDC_OPTIONS_HEADING 215
+
+/* The input panel preference of any dialog. */
+#define IDC_SIP_PREFERENCE 65535
 
 /* Strings. */
 #define IDS_ROOT 101

@@ -10,10 +10,14 @@ packages=(
 )
 # Running and testing Windows binaries: Wine, a virtual screen, the handheld's face Tahoma.
 packages+=(wine wine64 xvfb fonts-wine)
-# Libraries and data.
-packages+=(libboost-dev googletest tango-icon-theme)
+# Libraries and data of the module and the stand-in device.
+packages+=(libboost-dev libz-mingw-w64-dev dpkg-dev googletest tango-icon-theme)
+# The city database: its builder's libraries, country names and time zones.
+packages+=(zlib1g-dev libzip-dev libcli11-dev nlohmann-json3-dev libicu-dev iso-codes tzdata)
 # Peers and instruments of the benchmarks and checks.
-packages+=(valgrind gettext)
+packages+=(valgrind gettext libsqlite3-dev libarchive-dev unzip)
+# Any npm will do, also one that was not installed as a package.
+command -v npm >/dev/null || packages+=(npm)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
@@ -38,18 +42,20 @@ with_retries() {
 
 log=${SETUP_LOG:-out/setup.log}
 mkdir -p "$(dirname "$log")"
-mapfile -t missing < <(missing_packages)
-[ "${#missing[@]}" -eq 0 ] && exit 0
 
-export DEBIAN_FRONTEND=noninteractive
-apt=(as_root env DEBIAN_FRONTEND=noninteractive apt-get -o Acquire::Retries=3
-     -o DPkg::Lock::Timeout=120 -y --no-install-recommends)
-# A stale or unreachable list is not fatal by itself: the install below decides.
-with_retries "${apt[@]}" update || true
-if ! with_retries "${apt[@]}" install "${missing[@]}"; then
+install_packages() {
+    local apt=(as_root env DEBIAN_FRONTEND=noninteractive apt-get -o Acquire::Retries=3
+               -o DPkg::Lock::Timeout=120 -y --no-install-recommends)
+    # A stale or unreachable list is not fatal by itself: the install below decides.
+    with_retries "${apt[@]}" update || true
+    with_retries "${apt[@]}" install "$@" && return
     mapfile -t missing < <(missing_packages)
     if [ "${#missing[@]}" -ne 0 ]; then
         echo "setup: could not get from the Debian archive: ${missing[*]} (details: $log)" >&2
         exit 1
     fi
-fi
+}
+
+mapfile -t missing < <(missing_packages)
+[ "${#missing[@]}" -eq 0 ] || install_packages "${missing[@]}"
+"$(dirname "${BASH_SOURCE[0]}")/minizip.sh"

@@ -39,6 +39,15 @@ protected:
         return m_dialog;
     }
 
+    // The classes that dialogs of the shell may use beside the system's.
+    void RegisterExtraControls()
+    {
+        const FARPROC call =
+            GetProcAddress(GetModuleHandleW(L"aygshell.dll"), "SHInitExtraControls");
+        ASSERT_NE(nullptr, call);
+        call();
+    }
+
     std::wstring String(UINT id)
     {
         wchar_t text[200] = {};
@@ -121,9 +130,24 @@ TEST_F(Resources, Template209IsMenuOptions)
           0x0C}});
 }
 
+TEST_F(Resources, Template201IsSelectCity)
+{
+    RegisterExtraControls();
+    const HWND dialog = Create(201);
+    EXPECT_EQ(L"Select City", TextOf(dialog));
+    ExpectControls(dialog, {{201, L"Edit", L"", WS_VISIBLE | ES_AUTOHSCROLL | WS_TABSTOP,
+                             ES_MULTILINE | ES_READONLY | ES_PASSWORD | ES_NUMBER | WS_GROUP},
+                            {202, L"SysListView32", L"",
+                             WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA | LVS_NOCOLUMNHEADER |
+                                 LVS_NOSORTHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP,
+                             LVS_SORTASCENDING | LVS_SORTDESCENDING | LVS_EDITLABELS},
+                            {65535, L"SIPPREF", L"", 0, WS_VISIBLE}});
+}
+
 TEST_F(Resources, TemplatesAreHiddenPopups)
 {
-    for (const UINT id : {9u, 209u})
+    RegisterExtraControls();
+    for (const UINT id : {9u, 201u, 209u})
     {
         const HWND dialog = Create(id);
         const auto style = static_cast<DWORD>(GetWindowLongW(dialog, GWL_STYLE));

@@ -33,17 +33,17 @@ while IFS=: read -r file include; do
         fi
     fi
 done < <(grep -rnoE --include='*.h' --include='*.cpp' '^#include "[^"]+/[^"]+"' \
-    include platform frame menu ui dialogs device tools tests 2>/dev/null |
+    include platform frame skin menu ui dialogs device tools tests 2>/dev/null |
     sed -E 's/^([^:]+):[0-9]+:#include "([^"]+)"/\1:\2/')
 
 if grep -rnE '_WIN32_WCE|__WINE__|__MINGW' --include='*.h' --include='*.cpp' \
-    frame menu ui dialogs; then
+    frame skin menu ui dialogs; then
     echo "module code must not ask which system it runs on"
     failed=1
 fi
 
 if grep -rnE '#include <windows\.h>' --include='*.h' --include='*.cpp' \
-    platform frame menu ui dialogs device tests | grep -v '^platform/Win\.h:'; then
+    platform frame skin menu ui dialogs device tests | grep -v '^platform/Win\.h:'; then
     echo "<windows.h> comes in through platform/Win.h"
     failed=1
 fi

@@ -1,0 +1,8 @@
+#include "skin/Skin.h"
+
+namespace skin
+{
+
+CSkin::~CSkin() = default;
+
+} // namespace skin
