@@ -55,9 +55,11 @@ DialogOutcome RunAndReport(const DialogEntry* entry, HWND owner, const std::wstr
     std::wstring text;
     try
     {
-        const BOOL done = entry->Run(owner);
-        text = std::wstring(entry->Name) + (done ? L" returned TRUE: confirmed with Done.\n"
-                                                 : L" returned FALSE: not confirmed.\n");
+        const DialogResult result = entry->Run(owner);
+        text = entry->Name;
+        text += result.Confirmed ? L" returned TRUE: confirmed with Done.\n"
+                                 : L" returned FALSE: not confirmed.\n";
+        text += result.Words;
     }
     catch (...)
     {

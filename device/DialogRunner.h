@@ -16,6 +16,6 @@ enum class DialogOutcome
 };
 
 // Runs the dialog over `owner` and writes a UTF-8 report to `file`: the outcome's number on the
-// first line, then the return value and every change of the registry. `entry` null means that there
-// is no dialog of that name.
+// first line, then the return value, what else came back and every change of the registry. `entry`
+// null means that there is no dialog of that name.
 DialogOutcome RunAndReport(const DialogEntry* entry, HWND owner, const std::wstring& file);

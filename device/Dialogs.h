@@ -6,6 +6,15 @@
 
 #include <string>
 
+// How a dialog ended.
+struct DialogResult
+{
+    // What the export returned.
+    BOOL Confirmed;
+    // What came back beside that, in words; lines that end with a line feed, or nothing.
+    std::wstring Words;
+};
+
 // One row of the table.
 struct DialogEntry
 {
@@ -14,9 +23,12 @@ struct DialogEntry
     // What the home screen calls it; English, to be translated.
     const wchar_t* Title;
     int Icon;
-    // Runs the dialog over `owner` and returns what the export returned; null while the dialog is
-    // still to come. Exceptions of the dialog pass through.
-    BOOL (*Run)(HWND owner);
+    // Runs the dialog over `owner`; null while the dialog is still to come. Exceptions of the
+    // dialog pass through.
+    DialogResult (*Run)(HWND owner);
+    // What is chosen at the moment, for the home screen; empty when nothing is. Null for a dialog
+    // that chooses no single thing.
+    std::wstring (*Choice)();
 };
 
 constexpr int kDialogCount = 5;

@@ -35,6 +35,14 @@ void PaintSelection(HDC dc, RECT area)
                            colours::kTeal);
 }
 
+// The small line below a dialog's title.
+std::wstring NoteOf(const DialogEntry& dialog)
+{
+    if (!dialog.Run)
+        return texts::Translate(texts::kToCome);
+    return dialog.Choice ? dialog.Choice() : std::wstring();
+}
+
 RECT LeftPart(const RECT& area, int width)
 {
     return {area.left, area.top, area.left + width, area.bottom};
@@ -82,17 +90,19 @@ void CHomeScreen::PaintEntry(HDC dc, int entry, const RECT& area)
     text.left += iconWidth;
     text.right -= ScaleX(kMargin);
     const std::wstring title = texts::Translate(dialog.Title);
-    if (dialog.Run)
+    const std::wstring note = NoteOf(dialog);
+    const HFONT font = dialog.Run ? m_bold.get() : m_normal.get();
+    const COLORREF faded = selected ? colours::kMist : colours::kFaded;
+    const COLORREF strong = selected ? colours::kWhite : colours::kInk;
+    const COLORREF colour = dialog.Run ? strong : faded;
+    if (note.empty())
     {
-        painting::Text(dc, m_bold.get(), title, text, selected ? colours::kWhite : colours::kInk,
-                       DT_LEFT | DT_VCENTER);
+        painting::Text(dc, font, title, text, colour, DT_LEFT | DT_VCENTER);
         return;
     }
-    const COLORREF faded = selected ? colours::kMist : colours::kFaded;
     InflateRect(&text, 0, -ScaleY(3));
-    painting::Text(dc, m_normal.get(), title, text, faded, DT_LEFT | DT_TOP);
-    painting::Text(dc, m_small.get(), texts::Translate(texts::kToCome), text, faded,
-                   DT_LEFT | DT_BOTTOM);
+    painting::Text(dc, font, title, text, colour, DT_LEFT | DT_TOP);
+    painting::Text(dc, m_small.get(), note, text, faded, DT_LEFT | DT_BOTTOM);
 }
 
 void CHomeScreen::PaintMenu(HDC dc)

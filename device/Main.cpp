@@ -89,10 +89,10 @@ void HandleWaitingMessages()
 int TakePicture(CHomeScreen& home, const Options& options)
 {
     HandleWaitingMessages();
-    if (IsDialogView(options.Picture))
+    if (const wchar_t* dialog = DialogOfView(options.Picture))
     {
         CPictureDriver driver(GetCurrentThreadId(), options.Picture, options.PictureFile);
-        kDialogs[0].Run(home.Window());
+        FindDialogEntry(dialog)->Run(home.Window());
         if (driver.Finish())
             return 0;
         Complain(options.Picture + L": " + driver.Problem());

@@ -5,28 +5,36 @@
 
 #include <cstring>
 
+#include "device/CityViews.h"
 #include "device/ScreenPicture.h"
 #include "device/Stylus.h"
+#include "device/Waiting.h"
 
 namespace
 {
 
-constexpr DWORD kPatience = 10000;
+struct View
+{
+    const wchar_t* Name;
+    const wchar_t* Dialog;
+};
+
+constexpr const wchar_t* kCustomizeMenu = L"customize-menu";
+constexpr const wchar_t* kSelectCity = L"select-city";
+
+constexpr View kViews[] = {
+    {L"customize-menu", kCustomizeMenu},
+    {L"customize-menu-popup", kCustomizeMenu},
+    {L"customize-menu-context", kCustomizeMenu},
+    {L"menu-options", kCustomizeMenu},
+    {L"select-city", kSelectCity},
+    {L"select-city-search", kSelectCity},
+    {L"select-city-panel", kSelectCity},
+    {L"select-city-no-database", kSelectCity},
+};
+
 constexpr const wchar_t* kDialogClass = L"#32770";
 constexpr const wchar_t* kPopupClass = L"#32768";
-
-template <class Condition>
-bool WaitUntil(Condition condition)
-{
-    const ULONGLONG end = GetTickCount64() + kPatience;
-    while (!condition())
-    {
-        if (GetTickCount64() > end)
-            return false;
-        Sleep(10);
-    }
-    return true;
-}
 
 bool HasClass(HWND window, const wchar_t* name)
 {
@@ -48,13 +56,6 @@ BOOL CALLBACK FindReadyDialog(HWND window, LPARAM parameter)
         return TRUE;
     search.Found = window;
     return FALSE;
-}
-
-// Waits until a thread has handled all its input: an answer comes only from its message loop.
-void WaitForThreadOf(HWND window)
-{
-    DWORD_PTR answer = 0;
-    SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer);
 }
 
 HTREEITEM Step(HWND tree, WPARAM code, HTREEITEM from)
@@ -99,10 +100,10 @@ bool OpenFolder(HWND tree)
     if (!folder)
         return false;
     stylus::Tap(MiddleOf(tree, folder));
-    if (!WaitUntil([&] { return Step(tree, TVGN_CARET, nullptr) == folder; }))
+    if (!waiting::Until([&] { return Step(tree, TVGN_CARET, nullptr) == folder; }))
         return false;
     stylus::Key(VK_RIGHT);
-    return WaitUntil(
+    return waiting::Until(
         [&]
         {
             return (SendMessageW(tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(folder),
@@ -113,13 +114,12 @@ bool OpenFolder(HWND tree)
 
 } // namespace
 
-bool IsDialogView(const std::wstring& view)
+const wchar_t* DialogOfView(const std::wstring& view)
 {
-    for (const wchar_t* known :
-         {L"customize-menu", L"customize-menu-popup", L"customize-menu-context", L"menu-options"})
-        if (view == known)
-            return true;
-    return false;
+    for (const View& known : kViews)
+        if (view == known.Name)
+            return known.Dialog;
+    return nullptr;
 }
 
 CPictureDriver::CPictureDriver(DWORD threadId, const std::wstring& view, const std::wstring& file)
@@ -160,6 +160,13 @@ std::wstring CPictureDriver::TakePicture()
 }
 
 std::wstring CPictureDriver::BringUpView()
+{
+    if (DialogOfView(m_view) == std::wstring(kSelectCity))
+        return BringUpCityView(m_dialog, m_view);
+    return BringUpMenuView();
+}
+
+std::wstring CPictureDriver::BringUpMenuView()
 {
     const HWND tree = TreeOf(m_dialog);
     if (!tree || !OpenFolder(tree))
@@ -207,7 +214,7 @@ std::wstring CPictureDriver::OpenMenuOptions()
 HWND CPictureDriver::WaitForDialog(HWND other) const
 {
     DialogSearch search = {other, nullptr};
-    WaitUntil(
+    waiting::Until(
         [&]
         {
             // Only the foreground window gets the input.
@@ -215,13 +222,13 @@ HWND CPictureDriver::WaitForDialog(HWND other) const
             return search.Found && GetForegroundWindow() == search.Found;
         });
     if (search.Found)
-        WaitForThreadOf(search.Found);
+        waiting::ForThreadOf(search.Found);
     return search.Found;
 }
 
 bool CPictureDriver::WaitForPopup() const
 {
-    return WaitUntil(
+    return waiting::Until(
         [&]
         {
             const HWND popup = FindWindowW(kPopupClass, nullptr);
@@ -232,7 +239,7 @@ bool CPictureDriver::WaitForPopup() const
 // Ends menus first, then dialogs from the inside out.
 void CPictureDriver::CloseAll()
 {
-    WaitUntil(
+    waiting::Until(
         [&]
         {
             if (FindWindowW(kPopupClass, nullptr))

@@ -7,9 +7,10 @@
 #include <string>
 #include <thread>
 
-// The views, by the names that ./run uses: "customize-menu", "customize-menu-popup",
-// "customize-menu-context" and "menu-options".
-bool IsDialogView(const std::wstring& view);
+// The name of the dialog that a view belongs to; null when it is no view of a dialog. The views, by
+// the names that scripts/pictures.sh uses: "customize-menu", "customize-menu-popup",
+// "customize-menu-context", "menu-options" and those of CityViews.h.
+const wchar_t* DialogOfView(const std::wstring& view);
 
 class CPictureDriver
 {
@@ -31,6 +32,7 @@ private:
     // Each gives what went wrong, an empty text when nothing did.
     std::wstring TakePicture();
     std::wstring BringUpView();
+    std::wstring BringUpMenuView();
     std::wstring OpenContextMenu(HWND tree);
     std::wstring OpenSoftKeyMenu();
     std::wstring OpenMenuOptions();

@@ -49,6 +49,7 @@ RegistrySnapshot TakeSnapshot()
     RegistrySnapshot snapshot;
     AddToSnapshot(keys::kProduct, snapshot);
     AddToSnapshot(keys::kSharedComponent, snapshot);
+    snapshot.erase(keys::kDevice);
     return snapshot;
 }
 

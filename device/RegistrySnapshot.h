@@ -32,7 +32,8 @@ using RegistrySnapshot = std::map<std::wstring, RegistryValues, CaseFreeLess>;
 // adds nothing.
 void AddToSnapshot(const std::wstring& path, RegistrySnapshot& snapshot);
 
-// What the dialogs can change: the product's and the shared component's keys.
+// What the dialogs can change: the product's and the shared component's keys, without the key that
+// the stand-in shell writes itself.
 RegistrySnapshot TakeSnapshot();
 
 // Makers and readers of values.

@@ -27,7 +27,8 @@ extern "C"
         DWORD identifier;  /* the city; on input only used to pre-select it */
         WCHAR name[32];    /* at most 31 characters, padded with zeros */
         DWORD hasDetails;  /* 1 when `details` was filled from the database */
-        BYTE details[172]; /* as the database holds them; untouched when hasDetails is 0 */
+        BYTE details[172]; /* as the database holds them, see TavLumenarCityDetails.h; untouched
+                              when hasDetails is 0 */
     } CITYINFO;
 #pragma pack(pop)
 
@@ -53,8 +54,9 @@ extern "C"
     TAVLUMENAR_API BOOL WINAPI InstallWizard(DWORD unused1, DWORD unused2, DWORD unused3,
                                              DWORD unused4);
 
-    /* Picks a city. `city` is the initial choice and receives the new one, whole, when the result
-     * is TRUE; otherwise it is left untouched. FALSE at once when `city` is null.
+    /* Picks a city of the database in the installation folder. `city` is the initial choice and
+     * receives the new one, whole, when the result is TRUE; otherwise it is left untouched. "Done"
+     * without a chosen city counts as "Cancel". FALSE at once when `city` is null.
      */
     TAVLUMENAR_API BOOL WINAPI SelectCity(HWND owner, CITYINFO* city, DWORD unused3);
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Takes pictures of every view into a folder: scripts/pictures.sh DIR. Needs no display; ./run
-# --pictures builds first and calls it.
+# --pictures builds, makes the city database and calls it.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/run-steps.sh
@@ -14,7 +14,8 @@ session=$PWD/out/pictures-session
 trap 'scripts/session.sh stop "$session"' EXIT
 step "Starting virtual screens" scripts/session.sh start "$session"
 
-views=(home customize-menu customize-menu-popup customize-menu-context menu-options)
+views=(home customize-menu customize-menu-popup customize-menu-context menu-options
+    select-city select-city-search select-city-panel select-city-no-database)
 
 use_screen() { # WxH
     size=$1
@@ -32,6 +33,10 @@ run_shell() { # ARGUMENTS...
 take() { # VIEW
     local file=$target/$1-$size-$language.png
     rm -f "$file"
+    case "$1" in
+    *-no-database) rm -f "$WINEPREFIX/$install_folder_in_prefix/CitiesDb.dat" ;;
+    select-city*) install_cities ;;
+    esac
     run_shell --picture "$1" "Z:$file"
     [ -s "$file" ]
 }
@@ -58,6 +63,6 @@ for screen in 240x320 320x240 480x640; do
     take_all "$screen" en "${views[@]}"
 done
 take_all 240x320 en launcher-menu
-take_all 240x320 de home customize-menu menu-options
+take_all 240x320 de home customize-menu menu-options select-city
 take_all 240x320 ru home customize-menu menu-options
 echo "The pictures are in $target."

@@ -2,6 +2,7 @@
 
 shell_program=$PWD/out/x86_64/bin/TavLumenarShell.exe
 install_folder_in_prefix="drive_c/Program Files/Tav Lumenar"
+city_database=out/data/CitiesDb.dat
 
 # A prefix per resolution and screen: it remembers both.
 use_device() {
@@ -29,8 +30,18 @@ prepare_folders() {
     touch "$WINEPREFIX/.folders"
 }
 
+# The device has its own copy, which stays until there is a newer one.
+install_cities() {
+    local installed=$WINEPREFIX/$install_folder_in_prefix/CitiesDb.dat
+    [ -z "${fresh:-}" ] && [ -f "$installed" ] && [ ! "$city_database" -nt "$installed" ] && return 0
+    # Whole or not at all: a copy that was cut short would look like the newer one.
+    cp "$city_database" "$installed.new"
+    mv -f "$installed.new" "$installed"
+}
+
 seed_device() {
     local arguments=(--seed)
+    install_cities
     [ -n "${fresh:-}" ] && arguments+=(--fresh)
     [ -z "${fresh:-}" ] && [ "$WINEPREFIX/.seeded" -nt "$shell_program" ] && return 0
     wine "$shell_program" "${arguments[@]}"

@@ -6,6 +6,7 @@ usage() {
 
   --dialog NAME     open one dialog directly, then print what it returned and what it changed:
                     customize-menu, customize-home, customize-now, install-wizard, select-city
+                    (this one also prints the city's record, decoded)
   --screen WxH      the device's screen in pixels (default 240x320)
   --dpi N           its resolution in dots per inch, 96 or more (default 96)
   --language CODE   en, de or ru (default en)
@@ -13,7 +14,7 @@ usage() {
   --pictures DIR    open nothing: take pictures of every view into DIR, without a display
   --help            this text
 
-It sets up, builds and seeds what is missing first. Without a display it takes pictures into
+It sets up, builds, makes the city database and seeds what is missing first. Without a display it takes pictures into
 out/pictures.
 HELP
 }

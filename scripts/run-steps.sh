@@ -23,6 +23,17 @@ build_device() {
     cmake --build --preset x86_64 --target TavLumenarShell
 }
 
+# Makes the city database of the device, once, and says where its cities come from.
+make_cities() {
+    local origin
+    step "Making the city database" scripts/cities.sh
+    origin=$(head -n 1 out/data/source.txt)
+    case "$origin" in
+    *sample) echo "  from the small sample $origin: the whole set can't be fetched now" ;;
+    *) echo "  from $origin" ;;
+    esac
+}
+
 # True when a window can be opened here.
 has_display() {
     [ -n "${DISPLAY:-}" ] || return 1

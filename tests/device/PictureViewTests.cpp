@@ -1,0 +1,26 @@
+// Which dialog a picture's view belongs to.
+#include "device/PictureDriver.h"
+
+#include <gtest/gtest.h>
+
+#include "device/Dialogs.h"
+
+TEST(PictureViews, EachViewBelongsToADialogThatCanBeOpened)
+{
+    for (const wchar_t* view :
+         {L"customize-menu", L"menu-options", L"select-city", L"select-city-search",
+          L"select-city-panel", L"select-city-no-database"})
+    {
+        const wchar_t* const dialog = DialogOfView(view);
+        ASSERT_NE(nullptr, dialog) << view;
+        const DialogEntry* const entry = FindDialogEntry(dialog);
+        ASSERT_NE(nullptr, entry) << view;
+        EXPECT_NE(nullptr, entry->Run) << view;
+    }
+}
+
+TEST(PictureViews, TheHomeScreenIsNoDialog)
+{
+    EXPECT_EQ(nullptr, DialogOfView(L"home"));
+    EXPECT_EQ(nullptr, DialogOfView(L"launcher-menu"));
+}
