@@ -52,9 +52,11 @@ bool AttachOwner(HWND owner, HWND toolbar, bool hidden)
     if (!SetWindowSubclass(owner, OwnerProc, kOwnerSubclass, hidden ? 1 : 0) ||
         !SetPropW(owner, kToolbarProperty, toolbar))
         return false;
-    if (earlier != nullptr)
+    if (earlier != nullptr && earlier != toolbar)
         DestroyWindow(GetParent(earlier));
-    if (!hidden && IsWindowVisible(owner))
+    if (hidden)
+        ShowBar(toolbar, false);
+    else if (IsWindowVisible(owner))
         ShowBar(toolbar, true);
     return true;
 }

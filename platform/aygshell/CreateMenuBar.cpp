@@ -50,7 +50,9 @@ BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info)
         if (!menu)
             return FALSE;
     }
-    const HWND bar = CMenuBar::Create(*info, std::move(menu));
+    const bool isFilled = CMenuBar::FillEmpty(*info, menu);
+    const HWND bar = isFilled ? GetParent(SHFindMenuBar(info->hwndParent))
+                              : CMenuBar::Create(*info, std::move(menu));
     if (bar == nullptr)
         return FALSE;
     const HWND toolbar = FindSoftKeys(bar);

@@ -1,6 +1,7 @@
 #include "platform/aygshell/MenuBar.h"
 
 #include <new>
+#include <utility>
 
 #include "platform/aygshell/BarKeys.h"
 #include "platform/aygshell/BarOwner.h"
@@ -65,7 +66,8 @@ HWND CMenuBar::Create(const SHMENUBARINFO& info, UniqueMenu menu)
 }
 
 CMenuBar::CMenuBar(HWND window, const SHMENUBARINFO& info, UniqueMenu menu)
-    : m_window(window), m_owner(info.hwndParent), m_menu(std::move(menu)),
+    : m_window(window), m_owner(info.hwndParent),
+      m_isColoured((info.dwFlags & SHCMBF_COLORBK) != 0), m_menu(std::move(menu)),
       m_font(CreateShellFont(FW_BOLD))
 {
     SetWindowLongPtrW(m_window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -97,6 +99,36 @@ bool CMenuBar::CreateParts(const SHMENUBARINFO& info)
     m_hook = HookBarKeys();
     Fit();
     return m_hook != nullptr;
+}
+
+bool CMenuBar::FillEmpty(const SHMENUBARINFO& info, UniqueMenu& menu)
+{
+    const HWND toolbar = SHFindMenuBar(info.hwndParent);
+    if (toolbar == nullptr || !menu)
+        return false;
+    auto* const bar =
+        reinterpret_cast<CMenuBar*>(GetWindowLongPtrW(GetParent(toolbar), GWLP_USERDATA));
+    return bar != nullptr && bar->TakeKeys(info, menu);
+}
+
+bool CMenuBar::TakeKeys(const SHMENUBARINFO& info, UniqueMenu& menu)
+{
+    const bool wantsSipButton = (info.dwFlags & SHCMBF_HIDESIPBUTTON) == 0;
+    const bool hasSipButton = m_sipButton != nullptr;
+    const bool isColoured = m_isColoured || (info.dwFlags & SHCMBF_COLORBK) != 0;
+    if (m_menu || isColoured || (wantsSipButton && !hasSipButton))
+        return false;
+    if (!AddSoftKeys(m_toolbar, menu.get()))
+    {
+        RemoveSoftKeys(m_toolbar);
+        return false;
+    }
+    m_menu = std::move(menu);
+    if (!wantsSipButton && hasSipButton)
+        DestroyWindow(std::exchange(m_sipButton, nullptr));
+    LayoutSoftKeys(m_toolbar);
+    Redraw();
+    return true;
 }
 
 void CMenuBar::Fit()

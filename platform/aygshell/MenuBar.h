@@ -30,6 +30,11 @@ public:
     // takes the menu over. Returns the bar's window, null with the last error set on failure.
     static HWND Create(const SHMENUBARINFO& info, UniqueMenu menu);
 
+    // Gives the owner's bar the entries of `menu` as soft keys, if it has none yet and is otherwise
+    // what `info` asks for: a dialog's first, empty bar becomes its own one, since a new window
+    // costs more than all its keys. Takes the menu over only then; false otherwise.
+    static bool FillEmpty(const SHMENUBARINFO& info, UniqueMenu& menu);
+
     // The window procedure of the bar's class.
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -40,6 +45,7 @@ private:
     CMenuBar& operator=(const CMenuBar&) = delete;
 
     bool CreateParts(const SHMENUBARINFO& info);
+    bool TakeKeys(const SHMENUBARINFO& info, UniqueMenu& menu);
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnNotify(const NMHDR& header, LPARAM lParam);
     void Fit();
@@ -52,6 +58,7 @@ private:
     HWND m_toolbar = nullptr;
     HWND m_sipButton = nullptr;
     HHOOK m_hook = nullptr;
+    const bool m_isColoured;
     bool m_isPopupOpen = false;
     UniqueMenu m_menu;
     UniqueFont m_font;

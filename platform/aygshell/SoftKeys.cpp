@@ -124,6 +124,12 @@ bool AddSoftKeys(HWND toolbar, HMENU menu)
     return true;
 }
 
+void RemoveSoftKeys(HWND toolbar)
+{
+    while (SendMessageW(toolbar, TB_DELETEBUTTON, 0, 0) != FALSE)
+        continue;
+}
+
 void LayoutSoftKeys(HWND toolbar)
 {
     RECT area{};

@@ -16,6 +16,9 @@ HWND FindSoftKeys(HWND bar);
 // Makes a button of each top-level entry of a menu; a pop-up's button carries the HMENU in dwData.
 bool AddSoftKeys(HWND toolbar, HMENU menu);
 
+// Takes all buttons away.
+void RemoveSoftKeys(HWND toolbar);
+
 // Divides the toolbar's width evenly among its buttons; one or two get half of it each.
 void LayoutSoftKeys(HWND toolbar);
 

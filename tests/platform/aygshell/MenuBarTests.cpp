@@ -10,6 +10,9 @@
 namespace
 {
 
+// The input panel's button among the bar's children.
+constexpr int kSipButtonId = 1;
+
 SHMENUBARINFO InfoFor(HWND parent)
 {
     SHMENUBARINFO info{};
@@ -155,6 +158,52 @@ TEST(MenuBar, AnEmptyBarHasNoKeys)
     const HWND toolbar = SHFindMenuBar(dialog.Window());
     ASSERT_NE(toolbar, nullptr);
     EXPECT_EQ(ButtonCount(toolbar), 0);
+}
+
+TEST(MenuBar, AnEmptyBarBecomesTheBarWithKeys)
+{
+    CTestDialog dialog;
+    ASSERT_TRUE(dialog.CreateBar(0, SHCMBF_EMPTYBAR));
+    const HWND toolbar = SHFindMenuBar(dialog.Window());
+    ASSERT_NE(GetDlgItem(GetParent(toolbar), kSipButtonId), nullptr);
+    ASSERT_TRUE(dialog.CreateBar(IDM_KEY_AND_POPUP, SHCMBF_HMENU));
+    EXPECT_EQ(SHFindMenuBar(dialog.Window()), toolbar);
+    EXPECT_EQ(ButtonCount(toolbar), 2);
+    EXPECT_NE(GetDlgItem(GetParent(toolbar), kSipButtonId), nullptr);
+    const auto popup = reinterpret_cast<HMENU>(KeyOf(toolbar, 1, TBIF_BYINDEX).Data);
+    EXPECT_TRUE(IsMenu(popup));
+    dialog.Destroy();
+    EXPECT_FALSE(IsMenu(popup)) << "the bar took the menu over";
+}
+
+TEST(MenuBar, AnEmptyBarLosesThePanelsButtonWhenTheBarWithKeysHidesIt)
+{
+    CTestDialog dialog;
+    ASSERT_TRUE(dialog.CreateBar(0, SHCMBF_EMPTYBAR));
+    ASSERT_TRUE(dialog.CreateBar(IDM_TWO_KEYS, SHCMBF_HMENU | SHCMBF_HIDESIPBUTTON));
+    const HWND toolbar = SHFindMenuBar(dialog.Window());
+    EXPECT_EQ(ButtonCount(toolbar), 2);
+    EXPECT_EQ(GetDlgItem(GetParent(toolbar), kSipButtonId), nullptr);
+}
+
+TEST(MenuBar, AnEmptyBarWithoutThePanelsButtonGetsOneWithTheKeys)
+{
+    CTestDialog dialog;
+    ASSERT_TRUE(dialog.CreateBar(0, SHCMBF_EMPTYBAR | SHCMBF_HIDESIPBUTTON));
+    ASSERT_TRUE(dialog.CreateBar(IDM_TWO_KEYS, SHCMBF_HMENU));
+    const HWND toolbar = SHFindMenuBar(dialog.Window());
+    EXPECT_EQ(ButtonCount(toolbar), 2);
+    EXPECT_NE(GetDlgItem(GetParent(toolbar), kSipButtonId), nullptr);
+}
+
+TEST(MenuBar, AVisibleEmptyBarDisappearsWhenTheBarWithKeysIsHidden)
+{
+    CTestDialog dialog;
+    dialog.Open();
+    ASSERT_TRUE(dialog.CreateBar(0, SHCMBF_EMPTYBAR));
+    EXPECT_TRUE(IsWindowVisible(BarOf(dialog.Window())));
+    ASSERT_TRUE(dialog.CreateBar(IDM_TWO_KEYS, SHCMBF_HMENU | SHCMBF_HIDDEN));
+    EXPECT_FALSE(IsWindowVisible(BarOf(dialog.Window())));
 }
 
 TEST(MenuBar, ASecondBarReplacesTheFirst)
