@@ -4,7 +4,8 @@ add_library(TavLumenarDialogs SHARED
 set_target_properties(TavLumenarDialogs PROPERTIES PREFIX "" LINKER_LANGUAGE CXX)
 target_compile_definitions(TavLumenarDialogs PRIVATE TAVLUMENAR_DIALOGS_EXPORTS)
 target_include_directories(TavLumenarDialogs PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(TavLumenarDialogs PRIVATE tav_warnings tav_dialogs_menu tav_dialogs_city)
+target_link_libraries(TavLumenarDialogs PRIVATE tav_warnings
+    tav_dialogs_menu tav_dialogs_home tav_dialogs_now tav_dialogs_wizard tav_dialogs_city)
 # 32-bit names are decorated; the exports are found by their plain names.
 target_link_options(TavLumenarDialogs PRIVATE -s -Wl,--enable-stdcall-fixup)
 file(GLOB resource_parts CONFIGURE_DEPENDS resources/*.rc2 resources/*.h resources/dialogs/*.rc2)

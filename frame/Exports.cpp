@@ -2,7 +2,10 @@
 #include "include/TavLumenarDialogs.h"
 
 #include "dialogs/city/SelectCityDlg.h"
+#include "dialogs/home/CustomizeHomeDlg.h"
 #include "dialogs/menu/CustomizeMenuDlg.h"
+#include "dialogs/now/CustomizeNowDlg.h"
+#include "dialogs/wizard/InstallWizardDlg.h"
 
 namespace
 {
@@ -22,6 +25,18 @@ BOOL WINAPI CustomizeMenu(HWND owner, DWORD /*unused2*/, DWORD /*unused3*/, DWOR
     return RunConfirmed(dialog, owner);
 }
 
+BOOL WINAPI CustomizeHome(HWND owner, DWORD maxPinned, DWORD /*unused3*/, DWORD /*unused4*/)
+{
+    CCustomizeHomeDlg dialog(maxPinned);
+    return RunConfirmed(dialog, owner);
+}
+
+BOOL WINAPI CustomizeNow(HWND owner, DWORD /*unused2*/, DWORD /*unused3*/, DWORD /*unused4*/)
+{
+    CCustomizeNowDlg dialog;
+    return RunConfirmed(dialog, owner);
+}
+
 // The host's record is touched only when a city was confirmed.
 BOOL WINAPI SelectCity(HWND owner, CITYINFO* city, DWORD /*unused3*/)
 {
@@ -34,20 +49,10 @@ BOOL WINAPI SelectCity(HWND owner, CITYINFO* city, DWORD /*unused3*/)
     return TRUE;
 }
 
-// The dialogs below are still to come: their exports return at once.
-
-BOOL WINAPI CustomizeHome(HWND /*owner*/, DWORD /*maxPinned*/, DWORD /*unused3*/, DWORD /*unused4*/)
-{
-    return FALSE;
-}
-
-BOOL WINAPI CustomizeNow(HWND /*owner*/, DWORD /*unused2*/, DWORD /*unused3*/, DWORD /*unused4*/)
-{
-    return FALSE;
-}
-
+// Owned by whatever window is active: the host passes none.
 BOOL WINAPI InstallWizard(DWORD /*unused1*/, DWORD /*unused2*/, DWORD /*unused3*/,
                           DWORD /*unused4*/)
 {
-    return FALSE;
+    CInstallWizardDlg dialog;
+    return RunConfirmed(dialog, GetActiveWindow());
 }

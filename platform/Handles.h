@@ -68,6 +68,14 @@ struct File
     static void Close(HANDLE file) { CloseHandle(file); }
 };
 
+// A search through a folder.
+struct Find
+{
+    using Type = HANDLE;
+    static Type Null() { return INVALID_HANDLE_VALUE; }
+    static void Close(HANDLE find) { FindClose(find); }
+};
+
 struct Kernel : Nullable<HANDLE>
 {
     static void Close(HANDLE object) { CloseHandle(object); }
@@ -118,6 +126,8 @@ struct Window : Nullable<HWND>
 } // namespace handles
 
 using UniqueFile = CUnique<handles::File>;
+// From FindFirstFileW.
+using UniqueFind = CUnique<handles::Find>;
 // A mutex, event, process or thread handle.
 using UniqueKernelHandle = CUnique<handles::Kernel>;
 using UniqueLocal = CUnique<handles::Local>;

@@ -5,7 +5,10 @@
 /* Dialog templates. */
 #define IDD_CUSTOMIZE_MENU 9
 #define IDD_SELECT_CITY 201
+#define IDD_MANAGE_PINNED 207
 #define IDD_MENU_OPTIONS 209
+#define IDD_CUSTOMIZE_NOW 210
+#define IDD_INSTALL_WIZARD 211
 
 /* Menus that soft-key bars are made from. */
 #define IDR_MENU_EDITOR 203
@@ -28,6 +31,20 @@
 #define IDC_CITY_SEARCH 201
 #define IDC_CITY_LIST 202
 
+/* Controls of Manage Pinned. */
+#define IDC_PINNED_TREE 203
+
+/* Controls of Customize Now Screen. */
+#define IDC_NOW_LIST 202
+#define IDC_NOW_EMPTY 219
+#define IDC_NOW_EXPLANATION 220
+
+/* Controls of the install wizard. */
+#define IDC_CLASSIC 221
+#define IDC_PROFESSIONAL 222
+#define IDC_PROFESSIONAL_PICTURE 223
+#define IDC_CLASSIC_PICTURE 224
+
 /* Controls of Menu Options. */
 #define IDC_LAYOUT_LIST 210
 #define IDC_LAYOUT_GRID 211
@@ -42,3 +59,9 @@
 /* Strings. */
 #define IDS_ROOT 101
 #define IDS_MENU_OPTIONS_CAPTION 103
+#define IDS_KIND_EMAIL 104
+#define IDS_KIND_CALENDAR 105
+#define IDS_KIND_WEATHER 106
+#define IDS_KIND_PROFILE 107
+#define IDS_PIN_LIMIT 109
+#define IDS_PRODUCT 110

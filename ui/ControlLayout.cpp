@@ -89,15 +89,26 @@ void LayoutControls(HWND dialog)
         LayoutControl(dialog, control);
 }
 
+RECT ControlPlace(HWND dialog, HWND control)
+{
+    RECT place = {};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+void MoveControl(HWND control, const RECT& place)
+{
+    MoveWindow(control, place.left, place.top, place.right - place.left, place.bottom - place.top,
+               TRUE);
+}
+
 void FitMainControl(HWND dialog, HWND control)
 {
     if (!control)
         return;
-    RECT client = {};
-    GetClientRect(dialog, &client);
-    RECT own = {};
-    GetWindowRect(control, &own);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&own), 2);
-    MoveWindow(control, client.left, own.top, client.right - client.left, client.bottom - own.top,
-               TRUE);
+    RECT place = {};
+    GetClientRect(dialog, &place);
+    place.top = ControlPlace(dialog, control).top;
+    MoveControl(control, place);
 }

@@ -9,6 +9,12 @@
 // buttons move to an even row of the screen. Nothing is redrawn.
 void LayoutControls(HWND dialog);
 
+// The control's rectangle in the dialog's client area.
+RECT ControlPlace(HWND dialog, HWND control);
+
+// Moves the control to a rectangle of the dialog's client area and repaints it.
+void MoveControl(HWND control, const RECT& place);
+
 // Moves `control` so that it reaches from its own top edge to the right and bottom of the dialog's
 // client area.
 void FitMainControl(HWND dialog, HWND control);

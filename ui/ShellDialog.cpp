@@ -8,15 +8,6 @@
 namespace
 {
 
-BOOL TryInitDialog(HWND dialog, DWORD flags)
-{
-    SHINITDLGINFO info = {};
-    info.dwMask = SHIDIM_FLAGS;
-    info.hDlg = dialog;
-    info.dwFlags = flags;
-    return SHInitDialog(&info);
-}
-
 BOOL TryCreateMenuBar(HWND dialog, UINT menu, DWORD flags)
 {
     SHMENUBARINFO info = {};
@@ -32,8 +23,17 @@ BOOL TryCreateMenuBar(HWND dialog, UINT menu, DWORD flags)
 
 void InitShellDialog(HWND dialog, DWORD flags)
 {
-    if (!TryInitDialog(dialog, flags))
+    if (!TryInitShellDialog(dialog, flags))
         ThrowLastError();
+}
+
+bool TryInitShellDialog(HWND dialog, DWORD flags)
+{
+    SHINITDLGINFO info = {};
+    info.dwMask = SHIDIM_FLAGS;
+    info.hDlg = dialog;
+    info.dwFlags = flags;
+    return SHInitDialog(&info) != FALSE;
 }
 
 void CreateMenuBar(HWND dialog, UINT menu, DWORD flags)
@@ -45,5 +45,5 @@ void CreateMenuBar(HWND dialog, UINT menu, DWORD flags)
 void PrepareShellDialog(HWND dialog)
 {
     TryCreateMenuBar(dialog, 0, SHCMBF_EMPTYBAR);
-    TryInitDialog(dialog, SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN);
+    TryInitShellDialog(dialog, SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN);
 }

@@ -3,10 +3,14 @@
 
 #include "platform/Win.h"
 
-// Both throw CTavException with the code of the last error when the shell refuses.
+// Unless told otherwise these throw CTavException with the code of the last error when the shell
+// refuses.
 
 // Sets the dialog up with the given SHIDIF_ flags.
 void InitShellDialog(HWND dialog, DWORD flags);
+
+// The same, but returns false when the shell refuses.
+bool TryInitShellDialog(HWND dialog, DWORD flags);
 
 // Creates the dialog's soft-key bar from the menu resource `menu` with the given SHCMBF_ flags.
 void CreateMenuBar(HWND dialog, UINT menu, DWORD flags);

@@ -2,6 +2,7 @@
 
 #include "platform/Handles.h"
 #include "ui/DialogFonts.h"
+#include "ui/Paint.h"
 #include "ui/Scale.h"
 
 #include <algorithm>
@@ -16,22 +17,6 @@ constexpr int kTitleMargin = 8;
 constexpr int kTitleSize = 256;
 // Farther down than any screen, with room left for the line.
 constexpr int kFarthestEdge = INT32_MAX / 2;
-
-// BeginPaint and EndPaint around a scope.
-class CPaint
-{
-public:
-    explicit CPaint(HWND window) : m_window(window), m_dc(BeginPaint(window, &m_paint)) {}
-    ~CPaint() { EndPaint(m_window, &m_paint); }
-    CPaint(const CPaint&) = delete;
-    CPaint& operator=(const CPaint&) = delete;
-    HDC dc() const { return m_dc; }
-
-private:
-    HWND m_window;
-    PAINTSTRUCT m_paint;
-    HDC m_dc;
-};
 
 // Always bold, whatever the language wants of the other fonts.
 void DrawTitle(HDC dc, const wchar_t* title, int width, int height)

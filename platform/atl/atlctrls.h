@@ -100,6 +100,18 @@ public:
         return reinterpret_cast<HIMAGELIST>(
             SendMessage(TVM_GETIMAGELIST, static_cast<WPARAM>(kind)));
     }
+    // The list of that kind before; the tree doesn't own either.
+    HIMAGELIST SetImageList(HIMAGELIST images, int kind)
+    {
+        return reinterpret_cast<HIMAGELIST>(SendMessage(TVM_SETIMAGELIST, static_cast<WPARAM>(kind),
+                                                        reinterpret_cast<LPARAM>(images)));
+    }
+    // By their texts, in the order of the language.
+    BOOL SortChildren(HTREEITEM node)
+    {
+        return static_cast<BOOL>(
+            SendMessage(TVM_SORTCHILDREN, FALSE, reinterpret_cast<LPARAM>(node)));
+    }
     void SetRedraw(BOOL redraw) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
 
 private:
@@ -146,6 +158,26 @@ public:
     BOOL SetItemCount(int count)
     {
         return static_cast<BOOL>(SendMessage(LVM_SETITEMCOUNT, static_cast<WPARAM>(count)));
+    }
+    // The place that the item got: a sorted list chooses it by itself. -1 on failure.
+    int InsertItem(const LVITEMW& item)
+    {
+        return static_cast<int>(SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    }
+    BOOL DeleteAllItems() { return static_cast<BOOL>(SendMessage(LVM_DELETEALLITEMS)); }
+    // 0 for an item that isn't there.
+    LPARAM GetItemData(int item) const
+    {
+        LVITEMW data = {};
+        data.mask = LVIF_PARAM;
+        data.iItem = item;
+        SendMessage(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&data));
+        return data.lParam;
+    }
+    UINT GetItemState(int item, UINT mask) const
+    {
+        return static_cast<UINT>(
+            SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(item), static_cast<LPARAM>(mask)));
     }
     // An item of -1 stands for all items.
     BOOL SetItemState(int item, UINT state, UINT mask)

@@ -195,10 +195,106 @@ public:
     }
 };
 
+// Windows that exist already: puts an object's message map in front of a window's own procedure.
+template <class TBase = CWindow>
+class CWindowImplBaseT : public CWindowImplRoot<TBase>
+{
+public:
+    // A window that outlives its object gets its own procedure back.
+    ~CWindowImplBaseT() override
+    {
+        if (this->m_hWnd)
+            UnsubclassWindow(TRUE);
+    }
+
+    virtual WNDPROC GetWindowProc() { return WindowProc; }
+    // Called once, after the window's last message.
+    virtual void OnFinalMessage(HWND /*window*/) {}
+
+    // Takes the window's messages. FALSE when it is no window or there is no memory for a thunk.
+    BOOL SubclassWindow(HWND window)
+    {
+        ATLASSERT(!this->m_hWnd);
+        if (!this->m_thunk.Init(GetWindowProc(), this))
+        {
+            ::SetLastError(ERROR_OUTOFMEMORY);
+            return FALSE;
+        }
+        const LONG_PTR own = ::SetWindowLongPtrW(window, GWLP_WNDPROC, ThunkAddress());
+        if (!own)
+            return FALSE;
+        m_pfnSuperWindowProc = reinterpret_cast<WNDPROC>(own);
+        this->m_hWnd = window;
+        return TRUE;
+    }
+
+    // Gives the window back its own procedure and returns it. Null, with nothing changed, when
+    // somebody else has subclassed it since, unless `force` is set.
+    HWND UnsubclassWindow(BOOL force = FALSE)
+    {
+        if (!this->m_hWnd ||
+            (!force && ::GetWindowLongPtrW(this->m_hWnd, GWLP_WNDPROC) != ThunkAddress()))
+            return nullptr;
+        ::SetWindowLongPtrW(this->m_hWnd, GWLP_WNDPROC,
+                            reinterpret_cast<LONG_PTR>(m_pfnSuperWindowProc));
+        m_pfnSuperWindowProc = ::DefWindowProcW;
+        return this->Detach();
+    }
+
+    // What the window does with a message by itself.
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return ::CallWindowProcW(m_pfnSuperWindowProc, this->m_hWnd, message, wParam, lParam);
+    }
+
+    // `object` is the window object: the thunk has put it in the window's place.
+    static LRESULT CALLBACK WindowProc(HWND object, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        auto* const self = reinterpret_cast<CWindowImplBaseT*>(object);
+        const HWND window = self->m_hWnd;
+        LRESULT result = 0;
+        BOOL handled = FALSE;
+        try
+        {
+            handled = self->ProcessWindowMessage(window, message, wParam, lParam, result, 0);
+        }
+        catch (...)
+        {
+            CModalScope::KeepCurrentException();
+            handled = TRUE;
+        }
+        const WNDPROC own = self->m_pfnSuperWindowProc;
+        const bool isLast = message == WM_NCDESTROY && self->m_hWnd == window;
+        if (isLast)
+            self->UnsubclassWindow();
+        if (!handled)
+            result = ::CallWindowProcW(own, window, message, wParam, lParam);
+        if (isLast)
+        {
+            self->m_hWnd = nullptr;
+            self->OnFinalMessage(window);
+        }
+        return result;
+    }
+
+    // The window's own procedure.
+    WNDPROC m_pfnSuperWindowProc = ::DefWindowProcW;
+
+private:
+    LONG_PTR ThunkAddress() const { return reinterpret_cast<LONG_PTR>(this->m_thunk.GetWNDPROC()); }
+};
+
+// A control or other window with a message map of class T in front.
+template <class T, class TBase = CWindow>
+class CWindowImpl : public CWindowImplBaseT<TBase>
+{
+};
+
 } // namespace ATL
 
 using ATL::CDialogImpl;
 using ATL::CWindow;
+using ATL::CWindowImpl;
 
 #define BEGIN_MSG_MAP(Class)                                                                       \
     BOOL ProcessWindowMessage([[maybe_unused]] HWND hWnd, [[maybe_unused]] UINT uMsg,              \

@@ -96,13 +96,6 @@ TEST_F(Calling, PaintingTheDialogEnablesTheOwnerAlready)
     EXPECT_TRUE(IsWindowEnabled(run->Owner()));
 }
 
-TEST_F(Calling, DialogsThatAreStillToComeReturnFalse)
-{
-    EXPECT_FALSE(module->CustomizeHome(nullptr, 6, 0, 0));
-    EXPECT_FALSE(module->CustomizeNow(nullptr, 0, 0, 0));
-    EXPECT_FALSE(module->InstallWizard(0, 0, 0, 0));
-}
-
 TEST_F(Calling, SelectCityWithoutARecordReturnsFalse)
 {
     EXPECT_FALSE(module->SelectCity(nullptr, nullptr, 0));

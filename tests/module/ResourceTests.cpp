@@ -116,6 +116,14 @@ TEST_F(Resources, Template9IsCustomizeMenuWithItsTree)
                              TVS_CHECKBOXES}});
 }
 
+TEST_F(Resources, Template207IsManagePinnedWithItsTree)
+{
+    const HWND dialog = Create(207);
+    EXPECT_EQ(L"Manage Pinned", TextOf(dialog));
+    ExpectControls(dialog, {{203, L"SysTreeView32", L"", WS_TABSTOP | WS_VISIBLE | TVS_HASBUTTONS,
+                             TVS_CHECKBOXES}});
+}
+
 TEST_F(Resources, Template209IsMenuOptions)
 {
     const HWND dialog = Create(209);
@@ -187,6 +195,8 @@ TEST_F(Resources, StringsHaveTheirNumbers)
 {
     EXPECT_EQ(L"Tav Menu", String(101));
     EXPECT_EQ(L"Menu Options ('%s')", String(103));
+    EXPECT_EQ(L"Only %d items may be pinned", String(109));
+    EXPECT_EQ(L"Tav Lumenar", String(110));
 }
 
 TEST_F(Resources, TheModuleTellsItsVersion)

@@ -1,0 +1,36 @@
+#include "platform/os/Folder.h"
+
+#include "platform/Handles.h"
+
+namespace os
+{
+namespace
+{
+
+// A link that led back to a folder above it would make a walk endless.
+bool IsForeignToTheHandheld(const WIN32_FIND_DATAW& found)
+{
+    const std::wstring_view name = found.cFileName;
+    constexpr DWORD kFolderLink = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    return name == L"." || name == L".." || (found.dwFileAttributes & kFolderLink) == kFolderLink;
+}
+
+} // namespace
+
+std::vector<FolderEntry> ListFolder(const std::wstring& folder)
+{
+    std::vector<FolderEntry> entries;
+    WIN32_FIND_DATAW found = {};
+    const UniqueFind find(FindFirstFileW((folder + L"\\*.*").c_str(), &found));
+    if (!find)
+        return entries;
+    do
+    {
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (!IsForeignToTheHandheld(found))
+            entries.push_back({found.cFileName, isFolder});
+    } while (FindNextFileW(find.get(), &found));
+    return entries;
+}
+
+} // namespace os

@@ -1,0 +1,176 @@
+// Calling the export: results, arguments, owners, failures, leaks.
+#include "frame/TavException.h"
+#include "tests/dialogs/home/HomeFixture.h"
+#include "tests/support/ImportPatch.h"
+#include "tests/support/LeakCounter.h"
+#include "tests/support/TranslationFixture.h"
+
+namespace
+{
+
+using HomeCall = HomeFixture;
+
+} // namespace
+
+TEST_F(HomeCall, DoneReturnsTrueAndCancelFalse)
+{
+    Open();
+    Done();
+    EXPECT_TRUE(run->OwnerEnabledAtEnd());
+    Open();
+    Cancel();
+    EXPECT_TRUE(run->OwnerEnabledAtEnd());
+}
+
+TEST_F(HomeCall, TheLastArgumentsHaveNoEffect)
+{
+    module = std::make_unique<CModule>();
+    run = std::make_unique<CDialogRun>(
+        [this](HWND owner) { return module->CustomizeHome(owner, 4, 0xFFFFFFFF, 0x80000000); });
+    dialog = run->WaitForDialog(L"Manage Pinned");
+    EXPECT_EQ(run->Owner(), GetWindow(dialog, GW_OWNER));
+    Done();
+}
+
+TEST_F(HomeCall, AnOwnerThatIsNoWindowShowsNothing)
+{
+    module = std::make_unique<CModule>();
+    run = std::make_unique<CDialogRun>(
+        [this](HWND)
+        {
+            const auto stranger = reinterpret_cast<HWND>(static_cast<INT_PTR>(0x7FFF1234));
+            return module->CustomizeHome(stranger, 4, 0, 0);
+        });
+    ASSERT_TRUE(run->WaitForEnd());
+    EXPECT_EQ(FALSE, run->Result());
+}
+
+TEST_F(HomeCall, TitleTextsAndSoftKeysAreTranslated)
+{
+    const CTempFolder folder;
+    WriteTranslation(folder, L"Manage Pinned|Angeheftet\nDone|Fertig\nCancel|Abbrechen\n"
+                             L"Tav Menu|Startmenü\nTools|Werkzeuge\n");
+    SetInstallFolder(registry, folder);
+    module = std::make_unique<CModule>();
+    run = std::make_unique<CDialogRun>([this](HWND owner)
+                                       { return module->CustomizeHome(owner, 4, 0, 0); });
+    dialog = run->WaitForDialog(L"Angeheftet");
+    ASSERT_NE(nullptr, dialog);
+    tree = CTreeDriver(GetDlgItem(dialog, kTreeId));
+    EXPECT_EQ(L"Fertig", SoftKeyText(dialog, 0));
+    EXPECT_EQ(L"Abbrechen", SoftKeyText(dialog, 1));
+    EXPECT_EQ(L"Startmenü", tree.TextOf(tree.Find(L"")));
+    EXPECT_NE(nullptr, tree.Find(L"Werkzeuge"));
+}
+
+namespace
+{
+
+int g_calls;
+int g_failing;
+void* g_original;
+
+// Makes one call of a function of the shell fail; the others go through.
+BOOL WINAPI FailOneCall(void* info)
+{
+    if (++g_calls == g_failing)
+    {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return FALSE;
+    }
+    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
+}
+
+} // namespace
+
+TEST_F(HomeCall, AShellThatRefusesTheDialogOrItsBarLetsTheExportThrow)
+{
+    module = std::make_unique<CModule>();
+    for (const char* const function : {"SHInitDialog", "SHCreateMenuBar"})
+    {
+        g_calls = 0;
+        // The base has asked for the same before, and must not fail for it.
+        g_failing = 2;
+        g_original = *FindImport(module->Handle(), "aygshell.dll", function);
+        const CImportPatch patch(module->Handle(), "aygshell.dll", function, FailOneCall);
+        run = std::make_unique<CDialogRun>([this](HWND owner)
+                                           { return module->CustomizeHome(owner, 4, 0, 0); });
+        ASSERT_TRUE(run->WaitForEnd());
+        EXPECT_FALSE(run->Result());
+        EXPECT_EQ(static_cast<HRESULT>(0x80070005), run->ThrownCode()) << function;
+        EXPECT_TRUE(run->OwnerEnabledAtEnd());
+    }
+}
+
+// Leaks.
+
+namespace
+{
+
+constexpr int kWarmUp = 10;
+constexpr int kRounds = 200;
+
+BOOL CALLBACK FindOpenDialog(HWND window, LPARAM found)
+{
+    wchar_t name[32] = {};
+    GetClassNameW(window, name, 32);
+    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window))
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+int g_shown;
+
+LRESULT CALLBACK ShowAll(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != WM_COPYDATA)
+        return DefWindowProcW(window, message, wParam, lParam);
+    ++g_shown;
+    return TRUE;
+}
+
+// Switches a box and ends the dialog; works on the dialog's own thread, since a thread per round
+// would cost memory of its own.
+void CALLBACK WorkDialog(HWND, UINT, UINT_PTR, DWORD)
+{
+    HWND dialog = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), FindOpenDialog, reinterpret_cast<LPARAM>(&dialog));
+    if (!dialog || !IsWindowEnabled(dialog))
+        return;
+    const CTreeDriver tree(GetDlgItem(dialog, kTreeId));
+    const HTREEITEM node = tree.Find(L"Tools");
+    tree.SetBox(node, tree.BoxOf(node) == BoxOn ? BoxOff : BoxOn);
+    SendMessageW(dialog, kBoxSwitched, 0, reinterpret_cast<LPARAM>(node));
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+}
+
+} // namespace
+
+TEST_F(HomeCall, OpeningSwitchingAndSavingTwoHundredTimesLeavesNothingBehind)
+{
+    module = std::make_unique<CModule>();
+    const HWND owner = CreateWindowExW(0, L"Static", L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 100,
+                                       100, nullptr, nullptr, nullptr, nullptr);
+    const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, WorkDialog);
+    // In place of the filter, whose record of what it was asked would grow.
+    filter.reset();
+    const HWND shower = CreateWindowExW(0, L"TavMenu_ProcessWindow", L"", WS_POPUP, 0, 0, 0, 0,
+                                        nullptr, nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(shower, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ShowAll));
+    const auto openOften = [&](int rounds)
+    {
+        for (int i = 0; i < rounds; ++i)
+            ASSERT_TRUE(module->CustomizeHome(owner, 4, 0, 0));
+    };
+    openOften(kWarmUp);
+    const DWORD saved = Timestamp();
+    const ResourceCounts before = CountResources();
+    openOften(kRounds);
+    EXPECT_EQ(before, CountResources());
+    EXPECT_EQ(saved + kRounds, Timestamp());
+    EXPECT_GE(g_shown, 4 * kRounds);
+    KillTimer(nullptr, timer);
+    DestroyWindow(shower);
+    DestroyWindow(owner);
+}

@@ -1,0 +1,83 @@
+// Places and sizes on the screen, on every size of screen.
+#include "tests/dialogs/home/HomeFixture.h"
+#include "tests/support/Pixels.h"
+#include "tests/support/Wait.h"
+
+namespace
+{
+
+class HomeGeometry : public HomeFixture
+{
+protected:
+    static RECT RectOf(HWND window)
+    {
+        RECT rect = {};
+        GetWindowRect(window, &rect);
+        return rect;
+    }
+    static bool TurnsInto(COLORREF expected, int x, int y)
+    {
+        return WaitUntil(
+            [=]
+            {
+                const HDC screen = GetDC(nullptr);
+                const COLORREF colour = GetPixel(screen, x, y);
+                ReleaseDC(nullptr, screen);
+                return colour == expected;
+            });
+    }
+    // The weight and height of a control's font.
+    static LOGFONTW FontOf(HWND control)
+    {
+        LOGFONTW font = {};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)), sizeof(font),
+                   &font);
+        return font;
+    }
+};
+
+} // namespace
+
+TEST_F(HomeGeometry, TheDialogFillsTheScreenAboveItsSoftKeys)
+{
+    Open();
+    const RECT own = RectOf(dialog);
+    const RECT bar = RectOf(GetParent(SoftKeyBar(dialog)));
+    EXPECT_EQ(0, own.left);
+    EXPECT_EQ(0, own.top);
+    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), own.right);
+    EXPECT_EQ(bar.top, own.bottom);
+    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), bar.bottom);
+}
+
+TEST_F(HomeGeometry, TheTreeFillsWhatTheTitleBandLeaves)
+{
+    Open();
+    const RECT rect = RectOf(tree.Window());
+    const RECT own = RectOf(dialog);
+    EXPECT_EQ(0, rect.left);
+    EXPECT_EQ(own.right, rect.right);
+    EXPECT_EQ(own.bottom, rect.bottom);
+    // Below the line, as close as dialog units can say.
+    EXPECT_GE(rect.top, Px(24));
+    EXPECT_LE(rect.top, Px(24) + Px(2));
+    EXPECT_TRUE(TurnsInto(GetSysColor(COLOR_WINDOW), 3, 3));
+    EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), 3, Px(23)));
+}
+
+TEST_F(HomeGeometry, TheTreeIsSetInTheNormalFont)
+{
+    Open();
+    const LOGFONTW font = FontOf(tree.Window());
+    EXPECT_EQ(FW_NORMAL, font.lfWeight);
+    EXPECT_EQ(Px(13), font.lfHeight);
+    EXPECT_STREQ(L"Tahoma", font.lfFaceName);
+}
+
+TEST_F(HomeGeometry, EveryMenuOfTheFirstLevelIsInView)
+{
+    StoreList({{MenuName(L"Tools\\Alarm"), kPinned}});
+    Open();
+    for (const wchar_t* const path : {L"", L"Programs", L"Settings", L"Tools", L"Messaging"})
+        EXPECT_TRUE(tree.IsInView(tree.Find(path))) << path;
+}
