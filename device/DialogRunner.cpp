@@ -44,10 +44,9 @@ std::wstring ChangesInWords(const RegistrySnapshot& before)
 
 DialogOutcome RunAndReport(const DialogEntry* entry, HWND owner, const std::wstring& file)
 {
-    if (!entry || !entry->Run)
+    if (!entry)
     {
-        const std::wstring name = entry ? entry->Name : L"the dialog";
-        WriteReport(file, DialogOutcome::NotThere, name + L" is not there yet.\n");
+        WriteReport(file, DialogOutcome::NotThere, L"There is no dialog of that name.\n");
         return DialogOutcome::NotThere;
     }
     const RegistrySnapshot before = TakeSnapshot();

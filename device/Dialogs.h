@@ -23,11 +23,10 @@ struct DialogEntry
     // What the home screen calls it; English, to be translated.
     const wchar_t* Title;
     int Icon;
-    // Runs the dialog over `owner`; null while the dialog is still to come. Exceptions of the
-    // dialog pass through.
+    // Runs the dialog over `owner`. Exceptions of the dialog pass through.
     DialogResult (*Run)(HWND owner);
     // What is chosen at the moment, for the home screen; empty when nothing is. Null for a dialog
-    // that chooses no single thing.
+    // whose choices are seen elsewhere.
     std::wstring (*Choice)();
 };
 

@@ -9,6 +9,7 @@ namespace
 
 // Logical pixels.
 constexpr int kDateHeight = 26;
+constexpr int kNowLinkWidth = 64;
 constexpr int kStripHeight = 56;
 constexpr int kStripCellWidth = 58;
 constexpr int kEntryHeight = 34;
@@ -47,6 +48,8 @@ HomeLayout LayOutHome(const RECT& client, int dpi, int entryCount)
     const int width = client.right - client.left;
     layout.Date = {client.left, client.top, client.right,
                    client.top + ScaleToDpi(kDateHeight, dpi)};
+    layout.NowLink = layout.Date;
+    layout.NowLink.left = layout.Date.right - ScaleToDpi(kNowLinkWidth, dpi);
     const int stripBottom = layout.Date.bottom + ScaleToDpi(kStripHeight, dpi);
     const int cells = std::max(1, width / ScaleToDpi(kStripCellWidth, dpi));
     for (int i = 0; i < cells; ++i)

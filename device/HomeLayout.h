@@ -6,10 +6,13 @@
 
 #include <vector>
 
-// The home screen: the date, a strip of the launcher's first items, and the list of dialogs.
+// The home screen: the date, the way to the Now screen, a strip of the launcher's first items, and
+// the list of dialogs.
 struct HomeLayout
 {
     RECT Date;
+    // Within the date's line: leads to the Now screen.
+    RECT NowLink;
     std::vector<RECT> Strip;
     RECT StripLine;
     std::vector<RECT> Entries;

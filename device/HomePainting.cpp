@@ -35,14 +35,6 @@ void PaintSelection(HDC dc, RECT area)
                            colours::kTeal);
 }
 
-// The small line below a dialog's title.
-std::wstring NoteOf(const DialogEntry& dialog)
-{
-    if (!dialog.Run)
-        return texts::Translate(texts::kToCome);
-    return dialog.Choice ? dialog.Choice() : std::wstring();
-}
-
 RECT LeftPart(const RECT& area, int width)
 {
     return {area.left, area.top, area.left + width, area.bottom};
@@ -56,7 +48,7 @@ void CHomeScreen::Paint()
     PaintWallpaper(paint.Dc(), paint.Area());
     if (m_page == Page::Home)
         PaintHome(paint.Dc());
-    else
+    else if (m_page == Page::Menu)
         PaintMenu(paint.Dc());
 }
 
@@ -65,17 +57,45 @@ void CHomeScreen::PaintHome(HDC dc)
     const HomeLayout layout = LayOutHome(Client(), GetScreenResolution().dpiY, kDialogCount);
     RECT date = layout.Date;
     InflateRect(&date, -ScaleX(kMargin), 0);
+    date.right = layout.NowLink.left;
     painting::Text(dc, m_bold.get(), clockwork::DateText(), date, colours::kTeal,
                    DT_LEFT | DT_VCENTER);
-    if (const int hidden = m_menu.HiddenCount())
-        painting::Text(dc, m_small.get(), texts::Translate(texts::kHidden, std::to_wstring(hidden)),
-                       date, colours::kFaded, DT_RIGHT | DT_VCENTER);
+    PaintNowLink(dc, layout.NowLink);
     const size_t strip = std::min(layout.Strip.size(), m_items.size());
     for (size_t i = 0; i < strip; ++i)
         PaintGridItem(dc, *m_items[i], layout.Strip[i], false);
     painting::Fill(dc, layout.StripLine, painting::Mix(colours::kMist, colours::kTeal, 90));
     for (int i = 0; i < kDialogCount; ++i)
         PaintEntry(dc, i, layout.Entries[static_cast<size_t>(i)]);
+}
+
+void CHomeScreen::PaintNowLink(HDC dc, RECT area)
+{
+    const bool selected = m_selected == kNowTarget;
+    if (selected)
+        PaintSelection(dc, area);
+    const COLORREF colour = selected ? colours::kWhite : colours::kTeal;
+    area.right -= ScaleX(kMargin);
+    const int middle = (area.top + area.bottom) / 2;
+    const POINT arrow[] = {{area.right - ScaleX(5), middle - ScaleY(4)},
+                           {area.right - ScaleX(1), middle},
+                           {area.right - ScaleX(5), middle + ScaleY(4)}};
+    const UniqueBrush brush(CreateSolidBrush(colour));
+    const CSelectObject filled(dc, brush.get());
+    const CSelectObject unframed(dc, GetStockObject(NULL_PEN));
+    Polygon(dc, arrow, 3);
+    area.right -= ScaleX(kMargin);
+    painting::Text(dc, m_bold.get(), texts::Translate(texts::kNow), area, colour,
+                   DT_RIGHT | DT_VCENTER);
+}
+
+// The small line below a dialog's title. The menu has no choice of its own to tell.
+std::wstring CHomeScreen::NoteOf(const DialogEntry& dialog) const
+{
+    if (dialog.Choice)
+        return dialog.Choice();
+    const int hidden = m_menu.HiddenCount();
+    return hidden > 0 ? texts::Translate(texts::kHidden, std::to_wstring(hidden)) : std::wstring();
 }
 
 void CHomeScreen::PaintEntry(HDC dc, int entry, const RECT& area)
@@ -91,17 +111,15 @@ void CHomeScreen::PaintEntry(HDC dc, int entry, const RECT& area)
     text.right -= ScaleX(kMargin);
     const std::wstring title = texts::Translate(dialog.Title);
     const std::wstring note = NoteOf(dialog);
-    const HFONT font = dialog.Run ? m_bold.get() : m_normal.get();
     const COLORREF faded = selected ? colours::kMist : colours::kFaded;
     const COLORREF strong = selected ? colours::kWhite : colours::kInk;
-    const COLORREF colour = dialog.Run ? strong : faded;
     if (note.empty())
     {
-        painting::Text(dc, font, title, text, colour, DT_LEFT | DT_VCENTER);
+        painting::Text(dc, m_bold.get(), title, text, strong, DT_LEFT | DT_VCENTER);
         return;
     }
     InflateRect(&text, 0, -ScaleY(3));
-    painting::Text(dc, font, title, text, colour, DT_LEFT | DT_TOP);
+    painting::Text(dc, m_bold.get(), title, text, strong, DT_LEFT | DT_TOP);
     painting::Text(dc, m_small.get(), note, text, faded, DT_LEFT | DT_BOTTOM);
 }
 

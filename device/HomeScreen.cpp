@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "device/Dialogs.h"
 #include "device/Failure.h"
 #include "device/HomeLayout.h"
 #include "device/Painting.h"
@@ -47,8 +46,9 @@ int ColumnsOf(const std::vector<RECT>& areas)
 
 } // namespace
 
-CHomeScreen::CHomeScreen()
-    : m_bold(painting::MakeFont(ScaleY(13), true)), m_normal(painting::MakeFont(ScaleY(13), false)),
+CHomeScreen::CHomeScreen(const CNowScreen& now)
+    : m_now(now), m_bold(painting::MakeFont(ScaleY(13), true)),
+      m_normal(painting::MakeFont(ScaleY(13), false)),
       m_small(painting::MakeFont(ScaleY(11), false))
 {
     const RECT screen = {0, CTopBar::Height(), GetSystemMetrics(SM_CXSCREEN),
@@ -78,6 +78,7 @@ void CHomeScreen::Reload()
     {
         failure::Show(Window(), failure::DescribeCurrent());
     }
+    m_now.Refresh();
     LoadItems();
 }
 
@@ -93,15 +94,30 @@ void CHomeScreen::ShowPage(Page page)
 {
     m_page = page;
     m_selected = 0;
-    const bool home = page == Page::Home;
-    m_keys.SetTexts(texts::Translate(home ? texts::kMenu : texts::kOpen),
-                    texts::Translate(home ? texts::kExit : texts::kBack));
+    const wchar_t* const left = page == Page::Home   ? texts::kMenu
+                                : page == Page::Menu ? texts::kOpen
+                                                     : texts::kCustomizeNow;
+    m_keys.SetTexts(texts::Translate(left),
+                    texts::Translate(page == Page::Home ? texts::kExit : texts::kBack));
     Reload();
+    if (page != Page::Now)
+    {
+        m_now.Hide();
+        return;
+    }
+    RECT area = {};
+    GetWindowRect(Window(), &area);
+    m_now.Show(area);
 }
 
 void CHomeScreen::ShowLauncher()
 {
     ShowPage(Page::Menu);
+}
+
+void CHomeScreen::ShowNow()
+{
+    ShowPage(Page::Now);
 }
 
 RECT CHomeScreen::Client() const
@@ -113,14 +129,26 @@ RECT CHomeScreen::Client() const
 
 int CHomeScreen::TargetCount() const
 {
-    return m_page == Page::Home ? kDialogCount : static_cast<int>(m_items.size());
+    switch (m_page)
+    {
+    case Page::Home:
+        return kDialogCount + 1;
+    case Page::Menu:
+        return static_cast<int>(m_items.size());
+    default:
+        return 0;
+    }
 }
 
 std::vector<RECT> CHomeScreen::TargetAreas() const
 {
     const int dpi = GetScreenResolution().dpiY;
     if (m_page == Page::Home)
-        return LayOutHome(Client(), dpi, kDialogCount).Entries;
+    {
+        HomeLayout layout = LayOutHome(Client(), dpi, kDialogCount);
+        layout.Entries.push_back(layout.NowLink);
+        return layout.Entries;
+    }
     return LayOutMenu(Client(), dpi, m_menu.IsGrid(), TargetCount(), m_first).Cells;
 }
 
@@ -190,7 +218,7 @@ void CHomeScreen::OnKey(WPARAM key)
         break;
     case VK_ESCAPE:
     case VK_BACK:
-        if (m_page == Page::Menu)
+        if (m_page != Page::Home)
             OnRightKey();
         break;
     default:
@@ -217,18 +245,30 @@ void CHomeScreen::MoveSelection(int step)
 
 void CHomeScreen::Activate()
 {
-    if (m_page == Page::Home)
-        OpenDialog(m_selected);
-    else
+    if (m_page == Page::Menu)
         OpenItem(m_selected);
+    else if (m_page == Page::Home && m_selected == kNowTarget)
+        ShowNow();
+    else if (m_page == Page::Home)
+        OpenDialog(m_selected);
 }
 
 void CHomeScreen::OnLeftKey()
 {
     if (m_page == Page::Home)
         ShowPage(Page::Menu);
+    else if (m_page == Page::Now)
+        CustomizeNowScreen();
     else
         Activate();
+}
+
+// The dialog comes up below the Now screen, which therefore makes room for it.
+void CHomeScreen::CustomizeNowScreen()
+{
+    m_now.Hide();
+    OpenDialog(static_cast<int>(FindDialogEntry(L"customize-now") - kDialogs));
+    ShowNow();
 }
 
 void CHomeScreen::OnRightKey()
@@ -239,7 +279,7 @@ void CHomeScreen::OnRightKey()
         return;
     }
     m_selected = 0;
-    if (m_menu.Back())
+    if (m_page == Page::Menu && m_menu.Back())
         LoadItems();
     else
         ShowPage(Page::Home);
@@ -248,8 +288,6 @@ void CHomeScreen::OnRightKey()
 void CHomeScreen::OpenDialog(int entry)
 {
     const DialogEntry& dialog = kDialogs[entry];
-    if (!dialog.Run)
-        return;
     try
     {
         dialog.Run(Window());

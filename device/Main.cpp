@@ -11,11 +11,14 @@
 #include "device/Dialogs.h"
 #include "device/HomeScreen.h"
 #include "device/MenuProcessWindow.h"
+#include "device/NowScreen.h"
 #include "device/Options.h"
 #include "device/PictureDriver.h"
 #include "device/ScreenPicture.h"
 #include "device/Seed.h"
 #include "device/TopBar.h"
+#include "device/WizardPictures.h"
+#include "dialogs/wizard/LayoutType.h"
 #include "frame/Localizer.h"
 
 namespace
@@ -100,6 +103,14 @@ int TakePicture(CHomeScreen& home, const Options& options)
     }
     if (options.Picture == L"launcher-menu")
         home.ShowLauncher();
+    else if (options.Picture == L"now")
+        home.ShowNow();
+    else if (options.Picture == L"now-professional")
+    {
+        SaveLayoutType(LayoutType::Professional);
+        AnnounceLayoutType();
+        home.ShowNow();
+    }
     else if (options.Picture != L"home")
         return kUsageError;
     HandleWaitingMessages();
@@ -117,7 +128,8 @@ int RunShell(const Options& options)
         clockwork::Freeze();
     CTopBar topBar;
     const CWorkAreaBelow workArea(CTopBar::Height());
-    CHomeScreen home;
+    const CNowScreen now;
+    CHomeScreen home(now);
     home.Show();
     if (!options.Picture.empty())
         return TakePicture(home, options);
@@ -145,6 +157,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
         return 0;
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     LoadTranslations();
+    // Anew each time: they speak the device's language.
+    wizard::WritePictures(kInstallFolder);
     const int result = RunShell(options);
     CoUninitialize();
     return result;

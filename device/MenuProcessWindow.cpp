@@ -2,7 +2,6 @@
 
 #include <shlobj.h>
 
-#include "device/HostWindow.h"
 #include "device/ImageRequest.h"
 #include "device/LauncherIcons.h"
 #include "include/TavLumenarDialogs.h"
@@ -58,9 +57,9 @@ bool IsShown(const std::wstring& path)
 class CAnsweringWindow : public CHostWindow
 {
 public:
-    bool Open()
+    CAnsweringWindow()
     {
-        return Create(TAVLUMENAR_MENU_WINDOW_CLASS, L"", WS_EX_TOOLWINDOW, WS_POPUP, {});
+        Create(TAVLUMENAR_MENU_WINDOW_CLASS, L"", WS_EX_TOOLWINDOW, WS_POPUP, {});
     }
 
 protected:
@@ -105,26 +104,7 @@ bool IsShownBelow(const std::wstring& startMenu, const std::wstring& path, bool 
 
 } // namespace menuprocess
 
-CMenuProcessWindow::CMenuProcessWindow() : m_ready(CreateEventW(nullptr, TRUE, FALSE, nullptr))
+CMenuProcessWindow::CMenuProcessWindow()
+    : m_thread([] { return std::make_unique<menuprocess::CAnsweringWindow>(); })
 {
-    m_thread = std::thread([this] { Run(); });
-    WaitForSingleObject(m_ready.get(), INFINITE);
-}
-
-CMenuProcessWindow::~CMenuProcessWindow()
-{
-    if (m_window)
-        PostMessageW(m_window, WM_CLOSE, 0, 0);
-    m_thread.join();
-}
-
-void CMenuProcessWindow::Run()
-{
-    menuprocess::CAnsweringWindow window;
-    if (window.Open())
-        m_window = window.Window();
-    SetEvent(m_ready.get());
-    MSG message;
-    while (m_window && GetMessageW(&message, nullptr, 0, 0) > 0)
-        DispatchMessageW(&message);
 }

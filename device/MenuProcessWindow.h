@@ -7,29 +7,20 @@
 
 #include <cstdint>
 #include <string>
-#include <thread>
 
-#include "platform/Handles.h"
+#include "device/WindowThread.h"
 
 class CMenuProcessWindow
 {
 public:
     // Starts the thread and waits until the window is there.
     CMenuProcessWindow();
-    // Closes the window and waits for the thread.
-    ~CMenuProcessWindow();
-    CMenuProcessWindow(const CMenuProcessWindow&) = delete;
-    CMenuProcessWindow& operator=(const CMenuProcessWindow&) = delete;
 
     // Null when it could not be created.
-    HWND Window() const { return m_window; }
+    HWND Window() const { return m_thread.Window(); }
 
 private:
-    void Run();
-
-    UniqueKernelHandle m_ready;
-    HWND m_window = nullptr;
-    std::thread m_thread;
+    CWindowThread m_thread;
 };
 
 namespace menuprocess

@@ -20,6 +20,10 @@ struct View
 };
 
 constexpr const wchar_t* kCustomizeMenu = L"customize-menu";
+constexpr const wchar_t* kCustomizeHome = L"customize-home";
+constexpr const wchar_t* kCustomizeHomePrograms = L"customize-home-programs";
+constexpr const wchar_t* kCustomizeNow = L"customize-now";
+constexpr const wchar_t* kInstallWizard = L"install-wizard";
 constexpr const wchar_t* kSelectCity = L"select-city";
 
 constexpr View kViews[] = {
@@ -27,7 +31,11 @@ constexpr View kViews[] = {
     {L"customize-menu-popup", kCustomizeMenu},
     {L"customize-menu-context", kCustomizeMenu},
     {L"menu-options", kCustomizeMenu},
-    {L"select-city", kSelectCity},
+    {kCustomizeHome, kCustomizeHome},
+    {kCustomizeHomePrograms, kCustomizeHome},
+    {kCustomizeNow, kCustomizeNow},
+    {kInstallWizard, kInstallWizard},
+    {kSelectCity, kSelectCity},
     {L"select-city-search", kSelectCity},
     {L"select-city-panel", kSelectCity},
     {L"select-city-no-database", kSelectCity},
@@ -90,17 +98,30 @@ HTREEITEM ChildOfRoot(HWND tree, int position)
     return node;
 }
 
-// Where the sample menu has the folder that the pictures show: its games, which fit on one screen.
+// Where the sample menu has the folders that the pictures show: its games, which fit on one screen;
+// the Start Menu; and the office programs, one of which is pinned.
 constexpr int kFolderPosition = 7;
+constexpr int kProgramsPosition = 0;
+constexpr int kOfficePosition = 5;
 
-// Opens that folder with the stylus and the keys.
-bool OpenFolder(HWND tree)
+// Milliseconds until a tap that has done nothing is made again.
+constexpr DWORD kTapPatience = 2000;
+
+// Opens one of them with the stylus and the keys.
+bool OpenFolder(HWND tree, int position)
 {
-    const HTREEITEM folder = ChildOfRoot(tree, kFolderPosition);
+    const HTREEITEM folder = ChildOfRoot(tree, position);
     if (!folder)
         return false;
-    stylus::Tap(MiddleOf(tree, folder));
-    if (!waiting::Until([&] { return Step(tree, TVGN_CARET, nullptr) == folder; }))
+    // A tap is lost when the display server reports the pointer's earlier place meanwhile.
+    const auto isSelected = [&] { return Step(tree, TVGN_CARET, nullptr) == folder; };
+    const bool selected = waiting::Until(
+        [&]
+        {
+            stylus::Tap(MiddleOf(tree, folder));
+            return waiting::Until(isSelected, kTapPatience);
+        });
+    if (!selected)
         return false;
     stylus::Key(VK_RIGHT);
     return waiting::Until(
@@ -163,13 +184,24 @@ std::wstring CPictureDriver::BringUpView()
 {
     if (DialogOfView(m_view) == std::wstring(kSelectCity))
         return BringUpCityView(m_dialog, m_view);
-    return BringUpMenuView();
+    if (DialogOfView(m_view) == std::wstring(kCustomizeMenu))
+        return BringUpMenuView();
+    if (DialogOfView(m_view) == std::wstring(kCustomizeHome))
+        return BringUpHomeView();
+    return {};
+}
+
+std::wstring CPictureDriver::BringUpHomeView()
+{
+    const HWND tree = TreeOf(m_dialog);
+    const int folder = m_view == kCustomizeHomePrograms ? kProgramsPosition : kOfficePosition;
+    return tree && OpenFolder(tree, folder) ? L"" : L"the folder can't be opened";
 }
 
 std::wstring CPictureDriver::BringUpMenuView()
 {
     const HWND tree = TreeOf(m_dialog);
-    if (!tree || !OpenFolder(tree))
+    if (!tree || !OpenFolder(tree, kFolderPosition))
         return L"the folder can't be opened";
     if (m_view == L"customize-menu-popup")
         return OpenSoftKeyMenu();

@@ -9,7 +9,8 @@
 
 // The name of the dialog that a view belongs to; null when it is no view of a dialog. The views, by
 // the names that scripts/pictures.sh uses: "customize-menu", "customize-menu-popup",
-// "customize-menu-context", "menu-options" and those of CityViews.h.
+// "customize-menu-context", "menu-options", "customize-home", "customize-home-programs",
+// "customize-now", "install-wizard" and those of CityViews.h.
 const wchar_t* DialogOfView(const std::wstring& view);
 
 class CPictureDriver
@@ -33,6 +34,7 @@ private:
     std::wstring TakePicture();
     std::wstring BringUpView();
     std::wstring BringUpMenuView();
+    std::wstring BringUpHomeView();
     std::wstring OpenContextMenu(HWND tree);
     std::wstring OpenSoftKeyMenu();
     std::wstring OpenMenuOptions();

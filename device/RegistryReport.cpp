@@ -5,6 +5,8 @@
 #include <set>
 
 #include "device/MenuReport.h"
+#include "device/NowReport.h"
+#include "device/PinReport.h"
 
 namespace report
 {
@@ -12,12 +14,6 @@ namespace
 {
 
 using Lines = std::vector<std::wstring>;
-
-void Add(Lines& lines, const std::wstring& sentence)
-{
-    if (!sentence.empty())
-        lines.push_back(sentence);
-}
 
 std::wstring PlainChange(const std::wstring& path, const std::wstring& name,
                          const RegistryValue* was, const RegistryValue* now)
@@ -38,46 +34,90 @@ bool Same(const RegistryValue* left, const RegistryValue* right)
     return left == right || (left && right && *left == *right);
 }
 
-// The values of one key that differ, each in a sentence.
-void DescribeValues(const CMenuReport& menu, const std::wstring& path, const RegistryValues& was,
-                    const RegistryValues& now, Lines& lines)
+// The two states, and the words of those who know what their keys mean.
+class CComparison
 {
-    std::set<std::wstring, CaseFreeLess> names;
-    for (const auto& value : was)
-        names.insert(value.first);
-    for (const auto& value : now)
-        names.insert(value.first);
-    for (const std::wstring& name : names)
+public:
+    CComparison(const RegistrySnapshot& before, const RegistrySnapshot& after)
+        : m_before(before), m_after(after), m_menu(before, after)
     {
-        const RegistryValue* before = Find(was, name);
-        const RegistryValue* after = Find(now, name);
-        if (Same(before, after))
-            continue;
-        std::wstring sentence;
-        if (CMenuReport::Covers(path))
-            sentence = menu.ValueChanged(path, name, before, after);
-        Add(lines, sentence.empty() ? PlainChange(path, name, before, after) : sentence);
     }
-}
 
-// A key that only one side has.
-void DescribeKey(const CMenuReport& menu, const std::wstring& path, const RegistryValues& values,
-                 bool appeared, Lines& lines)
-{
-    if (CMenuReport::Covers(path))
+    // Everything about one key.
+    void Describe(const std::wstring& path, Lines& lines) const
     {
-        const std::wstring sentence = appeared ? menu.KeyAppeared(path) : menu.KeyVanished(path);
+        if (IsPinList(path))
+        {
+            const Lines pins = DescribePins(m_before, m_after);
+            lines.insert(lines.end(), pins.begin(), pins.end());
+            if (!pins.empty())
+                return;
+        }
+        const auto was = m_before.find(path);
+        const auto now = m_after.find(path);
+        if (was == m_before.end())
+            DescribeKey(path, now->second, true, lines);
+        else if (now == m_after.end())
+            DescribeKey(path, was->second, false, lines);
+        else
+            DescribeValues(path, was->second, now->second, lines);
+    }
+
+private:
+    std::wstring SpecialWords(const std::wstring& path, const std::wstring& name,
+                              const RegistryValue* was, const RegistryValue* now) const
+    {
+        return CMenuReport::Covers(path) ? m_menu.ValueChanged(path, name, was, now)
+                                         : NowValueChanged(m_after, path, name, was, now);
+    }
+
+    std::wstring SpecialWords(const std::wstring& path, bool appeared) const
+    {
+        if (CMenuReport::Covers(path))
+            return appeared ? m_menu.KeyAppeared(path) : m_menu.KeyVanished(path);
+        return appeared ? std::wstring() : NowKeyVanished(m_before, path);
+    }
+
+    // The values of one key that differ, each in a sentence.
+    void DescribeValues(const std::wstring& path, const RegistryValues& was,
+                        const RegistryValues& now, Lines& lines) const
+    {
+        std::set<std::wstring, CaseFreeLess> names;
+        for (const auto& value : was)
+            names.insert(value.first);
+        for (const auto& value : now)
+            names.insert(value.first);
+        for (const std::wstring& name : names)
+        {
+            const RegistryValue* before = Find(was, name);
+            const RegistryValue* after = Find(now, name);
+            if (Same(before, after))
+                continue;
+            const std::wstring sentence = SpecialWords(path, name, before, after);
+            lines.push_back(sentence.empty() ? PlainChange(path, name, before, after) : sentence);
+        }
+    }
+
+    // A key that only one side has.
+    void DescribeKey(const std::wstring& path, const RegistryValues& values, bool appeared,
+                     Lines& lines) const
+    {
+        const std::wstring sentence = SpecialWords(path, appeared);
         if (!sentence.empty())
         {
             lines.push_back(sentence);
             return;
         }
+        if (!appeared || values.empty())
+            lines.push_back(L"key " + path + (appeared ? L" was created" : L" was deleted"));
+        if (appeared)
+            DescribeValues(path, {}, values, lines);
     }
-    if (!appeared || values.empty())
-        lines.push_back(L"key " + path + (appeared ? L" was created" : L" was deleted"));
-    if (appeared)
-        DescribeValues(menu, path, {}, values, lines);
-}
+
+    const RegistrySnapshot& m_before;
+    const RegistrySnapshot& m_after;
+    CMenuReport m_menu;
+};
 
 } // namespace
 
@@ -102,7 +142,7 @@ std::wstring ValueInWords(const RegistryValue& value)
 std::vector<std::wstring> DescribeChanges(const RegistrySnapshot& before,
                                           const RegistrySnapshot& after)
 {
-    const CMenuReport menu(before, after);
+    const CComparison comparison(before, after);
     std::set<std::wstring, CaseFreeLess> paths;
     for (const auto& key : before)
         paths.insert(key.first);
@@ -110,16 +150,7 @@ std::vector<std::wstring> DescribeChanges(const RegistrySnapshot& before,
         paths.insert(key.first);
     Lines lines;
     for (const std::wstring& path : paths)
-    {
-        const auto was = before.find(path);
-        const auto now = after.find(path);
-        if (was == before.end())
-            DescribeKey(menu, path, now->second, true, lines);
-        else if (now == after.end())
-            DescribeKey(menu, path, was->second, false, lines);
-        else
-            DescribeValues(menu, path, was->second, now->second, lines);
-    }
+        comparison.Describe(path, lines);
     return lines;
 }
 

@@ -11,7 +11,8 @@ namespace report
 {
 
 // One sentence per change, ordered by key path; empty when nothing changed. Changes of the menu's
-// customisation layer are told in the menu's own words, all others as key, value, before and after.
+// customisation layer, of the pins, of the Now screen's plug-ins and of its layout are told in
+// their own words, all others as key, value, before and after.
 std::vector<std::wstring> DescribeChanges(const RegistrySnapshot& before,
                                           const RegistrySnapshot& after);
 

@@ -7,6 +7,7 @@
 #include "device/Keys.h"
 #include "device/SampleFiles.h"
 #include "device/SampleMenu.h"
+#include "device/SamplePlugins.h"
 #include "device/SampleRatings.h"
 #include "device/Shortcut.h"
 #include "frame/VORegistry.h"
@@ -20,7 +21,7 @@ namespace
 {
 
 // Rises whenever the sample data changes, so that an older device is seeded anew.
-constexpr DWORD kSampleVersion = 1;
+constexpr DWORD kSampleVersion = 2;
 constexpr const wchar_t* kVersionName = L"SampleData";
 
 const wchar_t* RootOf(sample::Layer layer)
@@ -99,11 +100,31 @@ void WriteRatingList(const sample::RatingList& list)
         SetWords(key, L"Layout", {list.Layout.begin(), list.Layout.end()});
 }
 
+void WritePlugin(const sample::PluginKey& plugin)
+{
+    const std::wstring path = std::wstring(keys::kPlugins) + L"\\" + plugin.Name;
+    CVORegistry key(HKEY_LOCAL_MACHINE, path.c_str(), TRUE, TRUE, 0);
+    SetText(key, L"Text", plugin.Text);
+    SetText(key, L"CheckHKLM", plugin.MachineCheck);
+    SetText(key, L"CheckHKCU", plugin.UserCheck);
+    SetNumber(key, L"Kind", plugin.Kind);
+    SetNumber(key, L"BuildIn", plugin.BuiltIn);
+    SetNumber(key, L"Inactive", plugin.Inactive);
+}
+
+void WritePlugins()
+{
+    for (const sample::PluginKey& plugin : sample::PluginKeys())
+        WritePlugin(plugin);
+    const CVORegistry machine(HKEY_LOCAL_MACHINE, sample::kInstalledForMachine, TRUE, TRUE, 0);
+    const CVORegistry user(HKEY_CURRENT_USER, sample::kInstalledForUser, TRUE, TRUE, 0);
+}
+
 // Deletes the last component of `path` with all that is below it.
-void EraseTree(const std::wstring& path)
+void EraseTree(HKEY root, const std::wstring& path)
 {
     const size_t cut = path.rfind(L'\\');
-    CVORegistry parent(HKEY_LOCAL_MACHINE, path.substr(0, cut).c_str(), FALSE, FALSE, 0);
+    CVORegistry parent(root, path.substr(0, cut).c_str(), FALSE, FALSE, 0);
     if (parent.Key)
         parent.DeleteKeyTree(path.substr(cut + 1).c_str());
 }
@@ -147,6 +168,7 @@ void WriteRegistry(const std::wstring& installFolder)
         WriteMenuKey(item);
     for (const sample::RatingList& list : sample::RatingLists())
         WriteRatingList(list);
+    WritePlugins();
     CVORegistry customised(HKEY_LOCAL_MACHINE, kCustomizeRootPath, TRUE, TRUE, 0);
     customised.SetDWORD(kLastKeyValue, sample::kLastKey);
     CVORegistry product(HKEY_LOCAL_MACHINE, keys::kProduct, TRUE, TRUE, 0);
@@ -157,8 +179,9 @@ void WriteRegistry(const std::wstring& installFolder)
 
 void EraseRegistry()
 {
-    EraseTree(keys::kProduct);
-    EraseTree(keys::kSharedComponent);
+    EraseTree(HKEY_LOCAL_MACHINE, keys::kProduct);
+    EraseTree(HKEY_LOCAL_MACHINE, keys::kSharedComponent);
+    EraseTree(HKEY_CURRENT_USER, sample::kInstalledForUser);
 }
 
 bool WriteStartMenu(const std::wstring& startMenuFolder, const std::wstring& iconFile)

@@ -9,11 +9,11 @@ namespace waiting
 // Milliseconds until a picture driver gives up.
 constexpr DWORD kPatience = 10000;
 
-// Asks until the condition holds; false when it still doesn't after kPatience.
+// Asks until the condition holds; false when it still doesn't after so many milliseconds.
 template <class Condition>
-bool Until(Condition condition)
+bool Until(Condition condition, DWORD patience = kPatience)
 {
-    const ULONGLONG end = GetTickCount64() + kPatience;
+    const ULONGLONG end = GetTickCount64() + patience;
     while (!condition())
     {
         if (GetTickCount64() > end)

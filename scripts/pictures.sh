@@ -15,7 +15,8 @@ trap 'scripts/session.sh stop "$session"' EXIT
 step "Starting virtual screens" scripts/session.sh start "$session"
 
 views=(home customize-menu customize-menu-popup customize-menu-context menu-options
-    select-city select-city-search select-city-panel select-city-no-database)
+    customize-home customize-home-programs customize-now install-wizard
+    select-city select-city-search select-city-panel select-city-no-database now now-professional)
 
 use_screen() { # WxH
     size=$1
@@ -63,6 +64,9 @@ for screen in 240x320 320x240 480x640; do
     take_all "$screen" en "${views[@]}"
 done
 take_all 240x320 en launcher-menu
-take_all 240x320 de home customize-menu menu-options select-city
-take_all 240x320 ru home customize-menu menu-options
+for screen in 240x320 320x240 480x640; do
+    take_all "$screen" de customize-home customize-now install-wizard
+done
+take_all 240x320 de home customize-menu menu-options select-city now
+take_all 240x320 ru home customize-menu menu-options customize-home customize-now install-wizard
 echo "The pictures are in $target."

@@ -24,10 +24,11 @@ make_device() {
 prepare_folders() {
     local key='HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders'
     mkdir -p "$WINEPREFIX/$install_folder_in_prefix" "$WINEPREFIX/drive_c/windows/Start Menu/Programs"
-    [ -f "$WINEPREFIX/.folders" ] && return 0
-    reg_set "$key" 'Start Menu' REG_SZ 'C:\Windows\Start Menu'
-    reg_set "$key" Programs REG_SZ 'C:\Windows\Start Menu\Programs'
-    touch "$WINEPREFIX/.folders"
+    [ -f "$WINEPREFIX/.folders-2" ] && return 0
+    # Without a drive letter, as on a handheld: the paths are also the names of what is pinned.
+    reg_set "$key" 'Start Menu' REG_SZ '\Windows\Start Menu'
+    reg_set "$key" Programs REG_SZ '\Windows\Start Menu\Programs'
+    touch "$WINEPREFIX/.folders-2"
 }
 
 # The device has its own copy, which stays until there is a newer one.

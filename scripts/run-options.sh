@@ -6,7 +6,7 @@ usage() {
 
   --dialog NAME     open one dialog directly, then print what it returned and what it changed:
                     customize-menu, customize-home, customize-now, install-wizard, select-city
-                    (this one also prints the city's record, decoded)
+                    (the last one also prints the city's record, decoded)
   --screen WxH      the device's screen in pixels (default 240x320)
   --dpi N           its resolution in dots per inch, 96 or more (default 96)
   --language CODE   en, de or ru (default en)

@@ -89,11 +89,10 @@ Registration ReadPlugin(const CVORegistry& now, const std::wstring& keyName, Plu
     return Registration::Listed;
 }
 
-std::vector<Plugin> ReadAndCleanUp()
+// Names the malformed registrations, too.
+std::vector<Plugin> ReadAll(const CVORegistry& now, std::vector<std::wstring>& malformed)
 {
-    CVORegistry now(HKEY_LOCAL_MACHINE, kNowPath, FALSE, FALSE, 0);
     std::vector<Plugin> plugins;
-    std::vector<std::wstring> malformed;
     std::wstring name;
     for (DWORD index = 0; now.EnumKey(index, name); ++index)
     {
@@ -104,6 +103,21 @@ std::vector<Plugin> ReadAndCleanUp()
         else if (found == Registration::Malformed)
             malformed.push_back(name);
     }
+    return plugins;
+}
+
+std::vector<Plugin> ReadOnly()
+{
+    const CVORegistry now(HKEY_LOCAL_MACHINE, kNowPath, FALSE, FALSE, 0);
+    std::vector<std::wstring> malformed;
+    return ReadAll(now, malformed);
+}
+
+std::vector<Plugin> ReadAndCleanUp()
+{
+    CVORegistry now(HKEY_LOCAL_MACHINE, kNowPath, FALSE, FALSE, 0);
+    std::vector<std::wstring> malformed;
+    std::vector<Plugin> plugins = ReadAll(now, malformed);
     // Only now: a key that goes while the keys are counted moves the others up.
     std::for_each(malformed.rbegin(), malformed.rend(),
                   [&](const std::wstring& key) { now.DeleteKeyTree(key.c_str()); });
@@ -115,6 +129,11 @@ std::vector<Plugin> ReadAndCleanUp()
 std::vector<Plugin> LoadPlugins()
 {
     return WithMemoryFailure(ReadAndCleanUp);
+}
+
+std::vector<Plugin> PeekPlugins()
+{
+    return WithMemoryFailure(ReadOnly);
 }
 
 CPluginSaving::CPluginSaving() : m_now(HKEY_LOCAL_MACHINE, kNowPath, TRUE, TRUE, 0) {}

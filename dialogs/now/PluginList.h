@@ -26,6 +26,9 @@ struct Plugin
 // Throws CTavException 0x8007000E when memory runs out.
 std::vector<Plugin> LoadPlugins();
 
+// The same for those who only show the plug-ins: nothing is deleted.
+std::vector<Plugin> PeekPlugins();
+
 // Writes which plug-ins are used, for the length of one saving. The Now key is created if it is
 // missing; each registration that was changed is flushed. A failure to write is not reported.
 class CPluginSaving

@@ -90,8 +90,8 @@ TEST_F(DialogRunner, AFailedDialogIsReportedWithItsError)
     EXPECT_EQ(DialogOutcome::Failed, m_outcome);
 }
 
-TEST_F(DialogRunner, ADialogThatIsStillToComeIsSaidToBeMissing)
+TEST_F(DialogRunner, AnUnknownDialogIsSaidToBeMissing)
 {
-    EXPECT_EQ("3\nsample is not there yet.\n", ReportOf(nullptr));
-    EXPECT_EQ(DialogOutcome::NotThere, m_outcome);
+    EXPECT_EQ(DialogOutcome::NotThere, RunAndReport(nullptr, nullptr, m_file));
+    EXPECT_EQ("3\nThere is no dialog of that name.\n", ReadReport());
 }

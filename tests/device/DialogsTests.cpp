@@ -84,14 +84,10 @@ TEST(DialogTable, AnUnknownNameIsNoDialog)
     EXPECT_EQ(nullptr, FindDialogEntry(L"select-town"));
 }
 
-TEST(DialogTable, TheMenuEditorAndTheCityPickerCanBeOpened)
+TEST(DialogTable, EachDialogCanBeOpened)
 {
     for (const DialogEntry& entry : kDialogs)
-    {
-        const std::wstring name = entry.Name;
-        EXPECT_EQ(name == L"customize-menu" || name == L"select-city", entry.Run != nullptr)
-            << name;
-    }
+        EXPECT_NE(nullptr, entry.Run) << entry.Name;
 }
 
 TEST_F(PickingACity, TheConfirmedCityIsKept)

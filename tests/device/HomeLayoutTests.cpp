@@ -62,6 +62,18 @@ TEST(HomeLayout, EverythingFitsBetweenTheBarsWithoutTouching)
     }
 }
 
+TEST(HomeLayout, TheWayToTheNowScreenIsTheRightPartOfTheDatesLine)
+{
+    for (const Screen& screen : kScreens)
+    {
+        SCOPED_TRACE(screen.Width);
+        const HomeLayout layout = LayOutHome(RoomOf(screen), screen.Dpi, kEntries);
+        EXPECT_TRUE(IsInside(layout.NowLink, layout.Date));
+        EXPECT_EQ(layout.Date.right, layout.NowLink.right);
+        EXPECT_GE(layout.NowLink.left, layout.Date.right / 2);
+    }
+}
+
 TEST(HomeLayout, AWideScreenHasTwoColumnsOfEntries)
 {
     const HomeLayout tall = LayOutHome(RoomOf(kScreens[0]), 96, kEntries);

@@ -8,7 +8,8 @@
 TEST(PictureViews, EachViewBelongsToADialogThatCanBeOpened)
 {
     for (const wchar_t* view :
-         {L"customize-menu", L"menu-options", L"select-city", L"select-city-search",
+         {L"customize-menu", L"menu-options", L"customize-home", L"customize-home-programs",
+          L"customize-now", L"install-wizard", L"select-city", L"select-city-search",
           L"select-city-panel", L"select-city-no-database"})
     {
         const wchar_t* const dialog = DialogOfView(view);
@@ -19,8 +20,9 @@ TEST(PictureViews, EachViewBelongsToADialogThatCanBeOpened)
     }
 }
 
-TEST(PictureViews, TheHomeScreenIsNoDialog)
+TEST(PictureViews, TheShellsOwnScreensAreNoDialogs)
 {
     EXPECT_EQ(nullptr, DialogOfView(L"home"));
     EXPECT_EQ(nullptr, DialogOfView(L"launcher-menu"));
+    EXPECT_EQ(nullptr, DialogOfView(L"now"));
 }

@@ -202,3 +202,27 @@ TEST(SampleRatings, TheGlobalListHasPinnedAndOtherEntriesAndALayout)
     EXPECT_LT(static_cast<size_t>(pinned), global.Entries.Count);
     EXPECT_GT(global.Layout.Count, 0u);
 }
+
+TEST(SampleFiles, TheStartMenuHasTwentyFiveEntriesInFiveFoldersAndMore)
+{
+    std::set<std::wstring> paths;
+    std::set<std::wstring> folders;
+    for (const sample::StartMenuFile& file : sample::StartMenuFiles())
+    {
+        const std::wstring path = file.Path;
+        EXPECT_TRUE(paths.insert(os::FoldCase(path)).second) << path;
+        if (path.rfind(L"Programs\\", 0) == 0 && path.rfind(L'\\') > 9)
+            folders.insert(path.substr(0, path.rfind(L'\\')));
+    }
+    EXPECT_GE(paths.size(), 25u);
+    EXPECT_GE(folders.size(), 5u);
+}
+
+TEST(SampleRatings, EachPinnedLinkIsAFileOfTheStartMenu)
+{
+    std::set<std::wstring> files;
+    for (const sample::StartMenuFile& file : sample::StartMenuFiles())
+        files.insert(std::wstring(L"l:") + sample::kStartMenuFolder + L"\\" + file.Path);
+    for (const sample::RatingEntry& entry : sample::RatingLists().begin()->Entries)
+        EXPECT_TRUE(entry.Name[0] == L'm' || files.count(entry.Name)) << entry.Name;
+}

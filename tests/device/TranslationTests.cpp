@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "device/SampleMenu.h"
+#include "device/SamplePlugins.h"
 #include "device/Texts.h"
 #include "frame/Localizer.h"
 #include "platform/Handles.h"
@@ -71,6 +72,9 @@ std::set<std::wstring> AllTexts()
     for (const sample::MenuKey& key : sample::MenuKeys())
         if (key.Text && key.Where != sample::Layer::Customised)
             texts.insert(key.Text);
+    for (const sample::PluginKey& plugin : sample::PluginKeys())
+        if (plugin.BuiltIn == 1 && *plugin.Text)
+            texts.insert(plugin.Text);
     return texts;
 }
 
