@@ -2,8 +2,10 @@
 
 #include "dialogs/city/CityListLayout.h"
 #include "platform/os/Text.h"
+#include "ui/ControlLayout.h"
 #include "ui/Scale.h"
 #include "ui/ShellDialog.h"
+#include "ui/WaitCursor.h"
 
 #include <algorithm>
 
@@ -18,40 +20,27 @@ enum Column
 
 // Characters of the search text that count, and the terminating zero.
 constexpr int kSearchSize = 32;
-// The window's left edge stays this far above the input panel, in logical pixels.
+// The list ends this far above the input panel or the soft keys, in logical pixels.
 constexpr int kMarginBelowList = 4;
-
-// Shows the wait cursor for the length of a scope.
-class CWaitCursor
-{
-public:
-    CWaitCursor() : m_previous(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
-    ~CWaitCursor() { SetCursor(m_previous); }
-    CWaitCursor(const CWaitCursor&) = delete;
-    CWaitCursor& operator=(const CWaitCursor&) = delete;
-
-private:
-    HCURSOR m_previous;
-};
 
 // Keeps a list from drawing each of several changes. The list's own answer to WM_SETREDRAW would
 // draw the scroll bar several times; the default one takes it for hidden meanwhile.
-class CRedrawPause
+class CListPause
 {
 public:
-    explicit CRedrawPause(CListViewCtrl& list) : m_list(list)
+    explicit CListPause(CListViewCtrl& list) : m_list(list)
     {
         DefWindowProcW(m_list, WM_SETREDRAW, FALSE, 0);
     }
-    ~CRedrawPause()
+    ~CListPause()
     {
         DefWindowProcW(m_list, WM_SETREDRAW, TRUE, 0);
         SetWindowPos(m_list, nullptr, 0, 0, 0, 0,
                      SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
         InvalidateRect(m_list, nullptr, TRUE);
     }
-    CRedrawPause(const CRedrawPause&) = delete;
-    CRedrawPause& operator=(const CRedrawPause&) = delete;
+    CListPause(const CListPause&) = delete;
+    CListPause& operator=(const CListPause&) = delete;
 
 private:
     CListViewCtrl& m_list;
@@ -63,20 +52,6 @@ void CopyName(WCHAR (&target)[32], const wchar_t* name)
     std::fill(std::begin(target), std::end(target), L'\0');
     for (size_t i = 0; i + 1 < std::size(target) && CityUnit(name + i) != L'\0'; ++i)
         target[i] = CityUnit(name + i);
-}
-
-RECT PlaceIn(HWND dialog, HWND control)
-{
-    RECT place = {};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
-void MoveTo(HWND control, const RECT& place)
-{
-    MoveWindow(control, place.left, place.top, place.right - place.left, place.bottom - place.top,
-               TRUE);
 }
 
 } // namespace
@@ -208,7 +183,7 @@ void CSelectCityDlg::ShowAllCities()
 
 void CSelectCityDlg::ShowResults(uint32_t count)
 {
-    const CRedrawPause pause(m_list);
+    const CListPause pause(m_list);
     m_list.SetItemCount(static_cast<int>(count));
     SizeColumns();
     ClearSelection();
@@ -256,16 +231,16 @@ void CSelectCityDlg::LayOut()
     GetClientRect(&client);
     if (m_search.m_hWnd)
     {
-        RECT place = PlaceIn(m_hWnd, m_search);
+        RECT place = ControlPlace(m_hWnd, m_search);
         place.right = client.right - place.left;
-        MoveTo(m_search, place);
+        MoveControl(m_search, place);
     }
     if (!m_list.m_hWnd)
         return;
-    RECT place = PlaceIn(m_hWnd, m_list);
+    RECT place = ControlPlace(m_hWnd, m_list);
     place.right = client.right - place.left;
     place.bottom = UsableBottom() - ScaleY(kMarginBelowList);
-    MoveTo(m_list, place);
+    MoveControl(m_list, place);
     SizeColumns();
     const int mark = m_list.GetSelectionMark();
     if (mark >= 0)

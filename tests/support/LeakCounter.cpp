@@ -135,10 +135,21 @@ size_t CountHeapBytes()
     return bytes;
 }
 
+// A cursor's first use makes objects that stay: which cursors a test meets depends on where the
+// pointer happens to be.
+void LoadSystemCursors()
+{
+    for (const wchar_t* cursor :
+         {IDC_ARROW, IDC_IBEAM, IDC_WAIT, IDC_CROSS, IDC_UPARROW, IDC_SIZENWSE, IDC_SIZENESW,
+          IDC_SIZEWE, IDC_SIZENS, IDC_SIZEALL, IDC_NO, IDC_HAND, IDC_APPSTARTING, IDC_HELP})
+        LoadCursorW(nullptr, cursor);
+}
+
 } // namespace
 
 ResourceCounts CountResources()
 {
+    LoadSystemCursors();
     ResourceCounts counts;
     counts.gdiObjects = CountGdiObjects();
     counts.windows = CountWindows();
