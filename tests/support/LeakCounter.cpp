@@ -1,5 +1,7 @@
 #include "tests/support/LeakCounter.h"
 
+#include "tests/support/Wait.h"
+
 #include <winternl.h>
 
 #include <cstdint>
@@ -156,6 +158,13 @@ ResourceCounts CountResources()
     counts.menus = CountMenus();
     counts.kernelHandles = CountKernelHandles();
     counts.heapBytes = CountHeapBytes();
+    return counts;
+}
+
+ResourceCounts CountUntil(const ResourceCounts& expected)
+{
+    ResourceCounts counts;
+    WaitUntil([&] { return (counts = CountResources()) == expected; }, 3000);
     return counts;
 }
 

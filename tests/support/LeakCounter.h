@@ -22,6 +22,9 @@ struct ResourceCounts
 };
 
 ResourceCounts CountResources();
+// Counts again and again until the numbers are the expected ones, at most for three seconds: short-
+// lived threads of the shell's announcements may still be on their way out. Returns the last count.
+ResourceCounts CountUntil(const ResourceCounts& expected);
 
 bool operator==(const ResourceCounts& left, const ResourceCounts& right);
 std::ostream& operator<<(std::ostream& stream, const ResourceCounts& counts);
