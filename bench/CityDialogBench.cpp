@@ -5,6 +5,7 @@
 #include "bench/CityLimit.h"
 #include "bench/Goals.h"
 #include "tests/dialogs/city/CityFolder.h"
+#include "tests/support/DialogRun.h"
 #include "tests/support/ImportPatch.h"
 #include "tests/support/Module.h"
 #include "tests/support/RegistrySandbox.h"
@@ -233,20 +234,9 @@ void MeasureKeys(HWND dialog)
     }
 }
 
-BOOL CALLBACK FindOpenDialog(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window))
-        return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
 void CALLBACK TypeOnce(HWND, UINT, UINT_PTR timer, DWORD)
 {
-    HWND dialog = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindOpenDialog, reinterpret_cast<LPARAM>(&dialog));
+    const HWND dialog = OpenDialogOf(GetCurrentThreadId());
     if (!dialog)
         return;
     KillTimer(nullptr, timer);

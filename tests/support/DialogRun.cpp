@@ -120,11 +120,16 @@ void CDialogRun::Run(const std::function<BOOL(HWND)>& call)
     SetEvent(m_ended);
 }
 
-HWND CDialogRun::InnermostDialog() const
+HWND OpenDialogOf(DWORD threadId)
 {
     HWND dialog = nullptr;
-    EnumThreadWindows(m_threadId, FindDialog, reinterpret_cast<LPARAM>(&dialog));
+    EnumThreadWindows(threadId, FindDialog, reinterpret_cast<LPARAM>(&dialog));
     return dialog;
+}
+
+HWND CDialogRun::InnermostDialog() const
+{
+    return OpenDialogOf(m_threadId);
 }
 
 HWND CDialogRun::WaitForDialog(const std::wstring& title)

@@ -56,6 +56,9 @@ private:
     std::thread m_thread;
 };
 
+// The innermost dialog of a thread that is visible and takes input; null when there is none.
+HWND OpenDialogOf(DWORD threadId);
+
 // The window text of any window.
 std::wstring TextOf(HWND window);
 

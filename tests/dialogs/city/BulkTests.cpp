@@ -10,22 +10,11 @@ namespace
 // What any one call may take, in milliseconds.
 constexpr ULONGLONG kLongest = 5000;
 
-BOOL CALLBACK FindOpenDialog(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window))
-        return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
 // Paints, types, chooses the first result and confirms it, on the dialog's own thread: a thread per
 // call would take most of the time.
 void CALLBACK WorkDialog(HWND, UINT, UINT_PTR, DWORD)
 {
-    HWND dialog = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindOpenDialog, reinterpret_cast<LPARAM>(&dialog));
+    const HWND dialog = OpenDialogOf(GetCurrentThreadId());
     if (!dialog)
         return;
     const HWND list = GetDlgItem(dialog, kListId);

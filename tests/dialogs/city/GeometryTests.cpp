@@ -1,6 +1,7 @@
 // Places and sizes of the picker's parts, on every size of screen.
 #include "tests/dialogs/city/CityFixture.h"
 #include "tests/support/Pixels.h"
+#include "tests/support/Screen.h"
 #include "tests/support/SoftKeys.h"
 #include "tests/support/Wait.h"
 
@@ -12,12 +13,6 @@ namespace
 class CityGeometry : public CityFixture
 {
 protected:
-    static RECT RectOf(HWND window)
-    {
-        RECT rect = {};
-        GetWindowRect(window, &rect);
-        return rect;
-    }
     // Opens the dialog and waits until the input panel, which follows the focus into the search
     // box, is up and the list has made room for it: what comes later, the test has asked for.
     void Open(DWORD identifier = kNobody)
@@ -85,32 +80,13 @@ protected:
 TEST_F(CityGeometry, TheDialogFillsTheScreenAboveItsSoftKeys)
 {
     Open();
-    const RECT own = RectOf(dialog);
-    const RECT bar = RectOf(GetParent(SoftKeyBar(dialog)));
-    EXPECT_EQ(0, own.left);
-    EXPECT_EQ(0, own.top);
-    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), own.right);
-    EXPECT_EQ(bar.top, own.bottom);
+    ExpectFullScreen(dialog);
 }
 
 TEST_F(CityGeometry, TheTitleBandIsPainted)
 {
     Open();
-    const auto turnsInto = [](COLORREF expected, int x, int y)
-    {
-        return WaitUntil(
-            [=]
-            {
-                const HDC screen = GetDC(nullptr);
-                const COLORREF colour = GetPixel(screen, x, y);
-                ReleaseDC(nullptr, screen);
-                return colour == expected;
-            });
-    };
-    const int right = GetSystemMetrics(SM_CXSCREEN) - 1;
-    EXPECT_TRUE(turnsInto(GetSysColor(COLOR_WINDOW), right, Px(23) - 1));
-    EXPECT_TRUE(turnsInto(RGB(0, 0, 0), 3, Px(23)));
-    EXPECT_TRUE(turnsInto(RGB(0, 0, 0), right, Px(24) - 1));
+    ExpectTitleBand();
 }
 
 TEST_F(CityGeometry, TheControlsStandBelowTheTitleBandWithoutOverlap)

@@ -110,16 +110,6 @@ namespace
 constexpr int kWarmUp = 10;
 constexpr int kRounds = 200;
 
-BOOL CALLBACK FindOpenDialog(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window))
-        return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
 int g_shown;
 
 LRESULT CALLBACK ShowAll(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -134,9 +124,8 @@ LRESULT CALLBACK ShowAll(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 // would cost memory of its own.
 void CALLBACK WorkDialog(HWND, UINT, UINT_PTR, DWORD)
 {
-    HWND dialog = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindOpenDialog, reinterpret_cast<LPARAM>(&dialog));
-    if (!dialog || !IsWindowEnabled(dialog))
+    const HWND dialog = OpenDialogOf(GetCurrentThreadId());
+    if (!dialog)
         return;
     const CTreeDriver tree(GetDlgItem(dialog, kTreeId));
     const HTREEITEM node = tree.Find(L"Tools");

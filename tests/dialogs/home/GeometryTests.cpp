@@ -1,6 +1,7 @@
 // Places and sizes on the screen, on every size of screen.
 #include "tests/dialogs/home/HomeFixture.h"
 #include "tests/support/Pixels.h"
+#include "tests/support/Screen.h"
 #include "tests/support/Wait.h"
 
 namespace
@@ -9,23 +10,6 @@ namespace
 class HomeGeometry : public HomeFixture
 {
 protected:
-    static RECT RectOf(HWND window)
-    {
-        RECT rect = {};
-        GetWindowRect(window, &rect);
-        return rect;
-    }
-    static bool TurnsInto(COLORREF expected, int x, int y)
-    {
-        return WaitUntil(
-            [=]
-            {
-                const HDC screen = GetDC(nullptr);
-                const COLORREF colour = GetPixel(screen, x, y);
-                ReleaseDC(nullptr, screen);
-                return colour == expected;
-            });
-    }
     // The weight and height of a control's font.
     static LOGFONTW FontOf(HWND control)
     {
@@ -41,13 +25,7 @@ protected:
 TEST_F(HomeGeometry, TheDialogFillsTheScreenAboveItsSoftKeys)
 {
     Open();
-    const RECT own = RectOf(dialog);
-    const RECT bar = RectOf(GetParent(SoftKeyBar(dialog)));
-    EXPECT_EQ(0, own.left);
-    EXPECT_EQ(0, own.top);
-    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), own.right);
-    EXPECT_EQ(bar.top, own.bottom);
-    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), bar.bottom);
+    ExpectFullScreen(dialog);
 }
 
 TEST_F(HomeGeometry, TheTreeFillsWhatTheTitleBandLeaves)

@@ -1,6 +1,7 @@
 // Places and sizes on the screen, on every size of screen.
 #include "tests/dialogs/menu/EditorFixture.h"
 #include "tests/support/Pixels.h"
+#include "tests/support/Screen.h"
 #include "tests/support/Wait.h"
 
 namespace
@@ -9,24 +10,6 @@ namespace
 class DialogGeometry : public EditorFixture
 {
 protected:
-    static RECT RectOf(HWND window)
-    {
-        RECT rect = {};
-        GetWindowRect(window, &rect);
-        return rect;
-    }
-    // The colour on the screen, once the system has brought it there.
-    static bool TurnsInto(COLORREF expected, int x, int y)
-    {
-        return WaitUntil(
-            [=]
-            {
-                const HDC screen = GetDC(nullptr);
-                const COLORREF colour = GetPixel(screen, x, y);
-                ReleaseDC(nullptr, screen);
-                return colour == expected;
-            });
-    }
     static std::vector<HWND> ControlsOf(HWND window)
     {
         std::vector<HWND> controls;
@@ -49,19 +32,10 @@ protected:
     }
 
     // Checks that a dialog has its title band and ends where its soft keys begin.
-    static void ExpectFullScreen(HWND window)
+    static void ExpectFullScreenWithTitle(HWND window)
     {
-        const RECT own = RectOf(window);
-        EXPECT_EQ(0, own.left);
-        EXPECT_EQ(0, own.top);
-        EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), own.right);
-        EXPECT_EQ(RectOf(GetParent(SoftKeyBar(window))).top, own.bottom);
-        EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), RectOf(GetParent(SoftKeyBar(window))).bottom);
-        const int right = GetSystemMetrics(SM_CXSCREEN) - 1;
-        EXPECT_TRUE(TurnsInto(GetSysColor(COLOR_WINDOW), 3, 3));
-        EXPECT_TRUE(TurnsInto(GetSysColor(COLOR_WINDOW), right, Px(23) - 1));
-        EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), 3, Px(23)));
-        EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), right, Px(24) - 1));
+        ExpectFullScreen(window);
+        ExpectTitleBand();
     }
 };
 
@@ -70,7 +44,7 @@ protected:
 TEST_F(DialogGeometry, TheEditorFillsTheScreenAboveItsSoftKeys)
 {
     Open();
-    ExpectFullScreen(dialog);
+    ExpectFullScreenWithTitle(dialog);
 }
 
 TEST_F(DialogGeometry, TheTreeFillsWhatTheTitleBandLeaves)
@@ -89,7 +63,7 @@ TEST_F(DialogGeometry, TheTreeFillsWhatTheTitleBandLeaves)
 TEST_F(DialogGeometry, MenuOptionsFillsTheScreenAboveItsSoftKeys)
 {
     Open();
-    ExpectFullScreen(OpenOptions(L"Programs", L"Menu Options ('Programs')"));
+    ExpectFullScreenWithTitle(OpenOptions(L"Programs", L"Menu Options ('Programs')"));
 }
 
 TEST_F(DialogGeometry, TheControlsOfMenuOptionsStandInTheirPlaceWithoutOverlap)

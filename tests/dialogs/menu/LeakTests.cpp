@@ -23,21 +23,10 @@ bool g_optionsWanted;
 int g_optionsSeen;
 int g_editorsSeen;
 
-BOOL CALLBACK FindOpenDialog(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window))
-        return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
 void CALLBACK WorkDialog(HWND, UINT, UINT_PTR, DWORD)
 {
-    HWND dialog = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindOpenDialog, reinterpret_cast<LPARAM>(&dialog));
-    if (!dialog || !IsWindowEnabled(dialog))
+    const HWND dialog = OpenDialogOf(GetCurrentThreadId());
+    if (!dialog)
         return;
     const bool isEditor = TextOf(dialog) == L"Customize Menu";
     if (isEditor && g_optionsWanted)

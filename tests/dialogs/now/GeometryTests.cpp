@@ -1,6 +1,7 @@
 // Places and sizes of the dialog's parts, on every size of screen.
 #include "tests/dialogs/now/NowFixture.h"
 #include "tests/support/Pixels.h"
+#include "tests/support/Screen.h"
 #include "tests/support/SoftKeys.h"
 #include "tests/support/Wait.h"
 
@@ -10,13 +11,7 @@ namespace
 class NowGeometry : public NowFixture
 {
 protected:
-    static RECT RectOf(HWND window)
-    {
-        RECT rect = {};
-        GetWindowRect(window, &rect);
-        return rect;
-    }
-    RECT RectOf(int control) const { return RectOf(GetDlgItem(dialog, control)); }
+    RECT PlaceOf(int control) const { return RectOf(GetDlgItem(dialog, control)); }
     static int WidthOf(const RECT& rect) { return static_cast<int>(rect.right - rect.left); }
     static int HeightOf(const RECT& rect) { return static_cast<int>(rect.bottom - rect.top); }
     int ColumnWidth() const { return static_cast<int>(ToList(LVM_GETCOLUMNWIDTH, 0)); }
@@ -28,7 +23,7 @@ protected:
     // Checks the list's place for a left edge of its own choice; the dialog begins at the corner.
     void ExpectListPlace(int margin, int top) const
     {
-        const RECT place = RectOf(kListId);
+        const RECT place = PlaceOf(kListId);
         const RECT own = RectOf(dialog);
         EXPECT_EQ(margin, place.left);
         EXPECT_EQ(top, place.top);
@@ -61,39 +56,19 @@ protected:
 TEST_F(NowGeometry, TheDialogFillsTheScreenAboveItsSoftKeys)
 {
     OpenWithPlugin();
-    const RECT own = RectOf(dialog);
-    const RECT bar = RectOf(GetParent(SoftKeyBar(dialog)));
-    EXPECT_EQ(0, own.left);
-    EXPECT_EQ(0, own.top);
-    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), own.right);
-    EXPECT_EQ(bar.top, own.bottom);
-    EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), bar.bottom);
+    ExpectFullScreen(dialog);
 }
 
 TEST_F(NowGeometry, TheTitleBandIsPainted)
 {
     OpenWithPlugin();
-    const auto turnsInto = [](COLORREF expected, int x, int y)
-    {
-        return WaitUntil(
-            [=]
-            {
-                const HDC screen = GetDC(nullptr);
-                const COLORREF colour = GetPixel(screen, x, y);
-                ReleaseDC(nullptr, screen);
-                return colour == expected;
-            });
-    };
-    const int right = GetSystemMetrics(SM_CXSCREEN) - 1;
-    EXPECT_TRUE(turnsInto(GetSysColor(COLOR_WINDOW), right, Px(23) - 1));
-    EXPECT_TRUE(turnsInto(RGB(0, 0, 0), 3, Px(23)));
-    EXPECT_TRUE(turnsInto(RGB(0, 0, 0), right, Px(24) - 1));
+    ExpectTitleBand();
 }
 
 TEST_F(NowGeometry, TheListLeavesTheSameMarginOnThreeSides)
 {
     OpenWithPlugin();
-    const RECT place = RectOf(kListId);
+    const RECT place = PlaceOf(kListId);
     EXPECT_GT(place.left, 0);
     ExpectListPlace(static_cast<int>(place.left), static_cast<int>(place.top));
 }
@@ -102,7 +77,7 @@ TEST_F(NowGeometry, TheColumnLeavesTheScrollBarsRoomWithAndWithoutOne)
 {
     OpenWithPlugin();
     const int width = ColumnWidth();
-    EXPECT_EQ(WidthOf(RectOf(kListId)) - GetSystemMetrics(SM_CXVSCROLL), width);
+    EXPECT_EQ(WidthOf(PlaceOf(kListId)) - GetSystemMetrics(SM_CXVSCROLL), width);
     Cancel();
     registry.AddMany(60, L"many ");
     Open();
@@ -113,19 +88,19 @@ TEST_F(NowGeometry, TheColumnLeavesTheScrollBarsRoomWithAndWithoutOne)
 TEST_F(NowGeometry, TheExplanationStandsBetweenTitleBandAndList)
 {
     OpenWithPlugin();
-    const RECT text = RectOf(kExplanationId);
+    const RECT text = PlaceOf(kExplanationId);
     EXPECT_GE(text.top, Px(24));
-    EXPECT_LE(text.bottom, RectOf(kListId).top);
+    EXPECT_LE(text.bottom, PlaceOf(kListId).top);
     EXPECT_GE(text.left, 0);
     EXPECT_LE(text.right, RectOf(dialog).right);
-    EXPECT_GT(HeightOf(RectOf(kListId)), Px(60));
+    EXPECT_GT(HeightOf(PlaceOf(kListId)), Px(60));
 }
 
 TEST_F(NowGeometry, TheTextsFitIntoTheirControls)
 {
     OpenWithPlugin();
     for (const int control : {kExplanationId, kEmptyTextId})
-        EXPECT_LE(TextHeightOf(GetDlgItem(dialog, control)), HeightOf(RectOf(control))) << control;
+        EXPECT_LE(TextHeightOf(GetDlgItem(dialog, control)), HeightOf(PlaceOf(control))) << control;
     // One line at most: it is centred.
     EXPECT_LT(TextHeightOf(GetDlgItem(dialog, kEmptyTextId)), Px(20));
 }
@@ -133,7 +108,7 @@ TEST_F(NowGeometry, TheTextsFitIntoTheirControls)
 TEST_F(NowGeometry, TheEmptyTextIsAsWideAsTheScreen)
 {
     Open();
-    const RECT text = RectOf(kEmptyTextId);
+    const RECT text = PlaceOf(kEmptyTextId);
     EXPECT_EQ(0, text.left);
     EXPECT_EQ(RectOf(dialog).right, text.right);
     EXPECT_GE(text.top, Px(24));
@@ -147,7 +122,7 @@ TEST_F(NowGeometry, AScreenResetLaysOutFromWhereTheControlsStand)
     Misplace(kEmptyTextId, 5, 70, 20, 11);
     EXPECT_EQ(0, SendMessageW(dialog, WM_SETTINGCHANGE, 0x3002, 0));
     ExpectListPlace(Px(7), Px(60));
-    const RECT text = RectOf(kEmptyTextId);
+    const RECT text = PlaceOf(kEmptyTextId);
     EXPECT_EQ(0, text.left);
     EXPECT_EQ(RectOf(dialog).right, text.right);
     EXPECT_EQ(Px(70), text.top);
@@ -158,18 +133,18 @@ TEST_F(NowGeometry, OtherSettingsMoveNothing)
 {
     OpenWithPlugin();
     Misplace(kListId, 7, 60, 50, 40);
-    const RECT misplaced = RectOf(kListId);
+    const RECT misplaced = PlaceOf(kListId);
     for (const WPARAM kind : {WPARAM{0}, WPARAM{1}, WPARAM{224}, WPARAM{0x3001}, WPARAM{0x3003}})
         EXPECT_EQ(0, SendMessageW(dialog, WM_SETTINGCHANGE, kind, 0)) << kind;
-    const RECT now = RectOf(kListId);
+    const RECT now = PlaceOf(kListId);
     EXPECT_TRUE(EqualRect(&misplaced, &now));
 }
 
 TEST_F(NowGeometry, ATurnedScreenIsFilledAgain)
 {
     OpenWithPlugin();
-    const int margin = static_cast<int>(RectOf(kListId).left);
-    const int top = static_cast<int>(RectOf(kListId).top);
+    const int margin = static_cast<int>(PlaceOf(kListId).left);
+    const int top = static_cast<int>(PlaceOf(kListId).top);
     MoveWindow(dialog, 0, 0, Px(200), Px(200), FALSE);
     SendMessageW(dialog, WM_SETTINGCHANGE, 0x3002, 0);
     EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), RectOf(dialog).right);
@@ -181,5 +156,5 @@ TEST_F(NowGeometry, TheExplanationHasRoomForThreeLines)
     OpenWithPlugin();
     // Translations run up to half longer than English: a third line has its place.
     const int line = TextHeightOf(GetDlgItem(dialog, kEmptyTextId));
-    EXPECT_GE(HeightOf(RectOf(kExplanationId)), 3 * line);
+    EXPECT_GE(HeightOf(PlaceOf(kExplanationId)), 3 * line);
 }

@@ -1,6 +1,7 @@
 // Opening and closing the dialog again and again leaves nothing behind.
 #include "frame/TavException.h"
 #include "tests/dialogs/now/NowSandbox.h"
+#include "tests/support/DialogRun.h"
 #include "tests/support/ImportPatch.h"
 #include "tests/support/LeakCounter.h"
 #include "tests/support/Module.h"
@@ -18,20 +19,9 @@ constexpr int kRounds = 100;
 UINT g_command;
 int g_seen;
 
-BOOL CALLBACK FindOpenDialog(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window))
-        return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
 void CALLBACK EndDialogs(HWND, UINT, UINT_PTR, DWORD)
 {
-    HWND dialog = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindOpenDialog, reinterpret_cast<LPARAM>(&dialog));
+    const HWND dialog = OpenDialogOf(GetCurrentThreadId());
     if (!dialog)
         return;
     ++g_seen;

@@ -7,6 +7,7 @@
 #include "tests/support/Module.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/SoftKeys.h"
+#include "tests/support/Screen.h"
 #include "tests/support/Wait.h"
 
 #include <gtest/gtest.h>
@@ -102,23 +103,9 @@ protected:
     HWND dialog = nullptr;
 };
 
-// Whether a point of the screen turns into a colour.
-inline bool TurnsInto(COLORREF expected, int x, int y)
-{
-    return WaitUntil(
-        [=]
-        {
-            const HDC screen = GetDC(nullptr);
-            const COLORREF colour = GetPixel(screen, x, y);
-            ReleaseDC(nullptr, screen);
-            return colour == expected;
-        });
-}
-
 // The middle of a window on the screen.
 inline POINT MiddleOf(HWND window)
 {
-    RECT rect = {};
-    GetWindowRect(window, &rect);
+    const RECT rect = RectOf(window);
     return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
