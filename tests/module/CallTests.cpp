@@ -1,5 +1,5 @@
 // Calling the exports: results, arguments, owners.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
 // System calls that fail while a dialog opens: what leaves the export, and what is left behind.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/ImportPatch.h"
 
 namespace

@@ -1,5 +1,5 @@
 // The dialogs in another language, and without one.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/TranslationFixture.h"
 #include "tests/support/Wait.h"
 

@@ -1,5 +1,5 @@
 // Check boxes: held in the tree, written in one pass by "Done", and only where they changed.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
 // The context menu: where it opens and what it holds.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/Wait.h"
 
 namespace

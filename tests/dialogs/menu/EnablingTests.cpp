@@ -1,5 +1,5 @@
 // Which commands are enabled for which node, in the soft key's pop-up and in the context menu.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
 // The Enter key on a node: switches its box unless it is held down.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/ImportPatch.h"
 #include "tests/support/Wait.h"
 

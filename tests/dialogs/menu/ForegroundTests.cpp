@@ -1,5 +1,5 @@
 // Losing the foreground: what is kept and how the dialogs end.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/ForeignWindow.h"
 #include "tests/support/Wait.h"
 

@@ -1,5 +1,5 @@
 // Messages that no honest sender sends: the editor stays as it is.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/FaultCounter.h"
 
 #include <climits>

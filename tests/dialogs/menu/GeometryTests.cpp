@@ -1,5 +1,5 @@
 // Places and sizes on the screen, on every size of screen.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/Screen.h"
 #include "tests/support/Wait.h"

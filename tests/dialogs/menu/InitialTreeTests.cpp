@@ -1,5 +1,5 @@
 // What Customize Menu shows when it opens.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 #include <set>
 

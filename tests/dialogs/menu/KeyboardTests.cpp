@@ -1,5 +1,5 @@
 // The menu editor worked by keys alone, as on a handheld without a stylus.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/Wait.h"
 
 namespace

@@ -1,5 +1,5 @@
 // Move Up and Move Down: in the tree, in the registry, and what a moved node looks like.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
 {

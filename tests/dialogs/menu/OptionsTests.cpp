@@ -1,5 +1,5 @@
 // Menu Options: its controls, its rules, and what "Done" writes.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
 // Remove, and the commands that are still to come.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
 // Tap-and-hold: which node it selects, and whether it goes on to the context menu.
-#include "tests/dialogs/menu/EditorFixture.h"
+#include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/Wait.h"
 
 namespace
