@@ -16,6 +16,11 @@ constexpr const wchar_t* kSettingsBranchPath =
 constexpr const wchar_t* kProgramsBranchPath =
     L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Menu\\Root\\Programs";
 
+// Settings of the menu as a whole.
+constexpr const wchar_t* kMenuSettingsPath = L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Menu\\Settings";
+// The icon number of new menus.
+constexpr const wchar_t* kDefFolderValue = L"DefFolder";
+
 // Holds one key per rating list.
 constexpr const wchar_t* kRatingsRootPath = L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Ratings";
 

@@ -1,6 +1,5 @@
 #include "menu/ProgramScan.h"
 
-#include <shellapi.h>
 #include <shlobj.h>
 
 #include <vector>
@@ -47,20 +46,6 @@ struct Entry
 };
 using EntryList = std::vector<Entry>;
 
-// The system's small icon list, and a path's place in it.
-HIMAGELIST SystemIcons()
-{
-    int unused = 0;
-    return os::SystemIcon(L"\\", FILE_ATTRIBUTE_DIRECTORY, SHGFI_SMALLICON, unused);
-}
-
-int SystemIconOf(const std::wstring& path)
-{
-    SHFILEINFOW info = {};
-    SHGetFileInfoW(path.c_str(), 0, &info, sizeof(info), SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
-    return info.iIcon;
-}
-
 // One filling of a branch.
 class CFilling
 {
@@ -74,7 +59,7 @@ public:
     uint32_t Run(HTREEITEM parent)
     {
         if (m_scan.ShowIcons)
-            m_tree.SetImageList(SystemIcons(), TVSIL_NORMAL);
+            m_tree.SetImageList(os::SmallIcons(), TVSIL_NORMAL);
         RefreshMenuProcess();
         m_scan.Paths.clear();
         std::wstring startMenu;
@@ -98,7 +83,7 @@ private:
     {
         if (!programs::FitsRequest(folder))
             return;
-        for (const os::FolderEntry& found : os::ListFolder(folder))
+        for (const os::FolderEntry& found : os::ListFolder(folder + L"\\*.*"))
         {
             if (!found.IsFolder && !programs::IsProgramFile(found.Name, os::FoldCase))
                 continue;
@@ -163,7 +148,7 @@ private:
         if (m_scan.ShowIcons)
         {
             insert.item.mask |= TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-            insert.item.iImage = SystemIconOf(path);
+            insert.item.iImage = os::SmallIconOf(path);
             insert.item.iSelectedImage = insert.item.iImage;
         }
         return m_tree.InsertItem(insert);

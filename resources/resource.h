@@ -5,7 +5,12 @@
 /* Dialog templates. */
 #define IDD_CUSTOMIZE_MENU 9
 #define IDD_SELECT_CITY 201
+#define IDD_EDIT_MENU_ITEM 202
+#define IDD_SELECT_FILE 203
+#define IDD_EDIT_MENU 204
+#define IDD_CHOOSE_ICON 206
 #define IDD_MANAGE_PINNED 207
+#define IDD_SELECT_LINK 208
 #define IDD_MENU_OPTIONS 209
 #define IDD_CUSTOMIZE_NOW 210
 #define IDD_INSTALL_WIZARD 211
@@ -53,11 +58,26 @@
 #define IDC_LAYOUT_HEADING 214
 #define IDC_OPTIONS_HEADING 215
 
+/* Controls of Edit Item; a menu's has no path. */
+#define IDC_ITEM_NAME 206
+#define IDC_ITEM_PATH 207
+#define IDC_ITEM_ICON 208
+#define IDC_CHANGE_ICON 209
+#define IDC_NAME_LABEL 216
+#define IDC_PATH_LABEL 217
+#define IDC_ICON_LABEL 218
+
+/* Controls of Choose Icon, Select File and Select Link. */
+#define IDC_ICON_LIST 201
+#define IDC_FILE_TREE 207
+#define IDC_LINK_TREE 209
+
 /* The input panel preference of any dialog. */
 #define IDC_SIP_PREFERENCE 65535
 
 /* Strings. */
 #define IDS_ROOT 101
+#define IDS_PROGRAMS 102
 #define IDS_MENU_OPTIONS_CAPTION 103
 #define IDS_KIND_EMAIL 104
 #define IDS_KIND_CALENDAR 105

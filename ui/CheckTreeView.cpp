@@ -46,17 +46,3 @@ POINT CCheckTreeView::LabelCentre(HTREEITEM node) const
     GetItemRect(node, rect, TRUE);
     return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
-
-void CCheckTreeView::ForEachNode(const std::function<void(HTREEITEM)>& visit) const
-{
-    VisitFrom(GetRootItem(), visit);
-}
-
-void CCheckTreeView::VisitFrom(HTREEITEM node, const std::function<void(HTREEITEM)>& visit) const
-{
-    for (; node; node = GetNextSiblingItem(node))
-    {
-        visit(node);
-        VisitFrom(GetChildItem(node), visit);
-    }
-}

@@ -9,7 +9,6 @@
 namespace
 {
 
-constexpr int kNoIcon = -1;
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 } // namespace

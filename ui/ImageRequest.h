@@ -44,6 +44,11 @@ static_assert(offsetof(ImageRequestRecord, Dc) == 528);
 static_assert(offsetof(ImageRequestRecord, Left) == 532);
 static_assert(offsetof(ImageRequestRecord, Bottom) == 544);
 
+// Icons are numbered one by one from here.
+constexpr int kFirstIconNumber = 100;
+// Stands for no icon.
+constexpr int kNoIcon = -1;
+
 // Both ask the window that RefreshMenuProcess found, and return whether it has drawn.
 
 // Has the icon `number` drawn into a rectangle of `dc`.

@@ -36,7 +36,7 @@ void CCustomizeHomeDlg::OnOK()
 {
     Ratings::CMruSlots pinned;
     Ratings::ReadGlobalMru(pinned, MaxPinned);
-    m_view.ForEachNode([&](HTREEITEM node) { SavePin(node, pinned); });
+    ForEachNode(m_view, [&](HTREEITEM node) { SavePin(node, pinned); });
     EndWith(IDOK);
 }
 
@@ -76,7 +76,7 @@ LRESULT CCustomizeHomeDlg::OnBoxSwitched(UINT /*message*/, WPARAM /*wParam*/, LP
                                          BOOL& /*handled*/)
 {
     const auto node = reinterpret_cast<HTREEITEM>(lParam);
-    if (!node || !m_view.HasNode(node))
+    if (!node || !HasNode(m_view, node))
         return 0;
     if (m_view.BoxOf(node) == kCheckedBox && m_view.CountCheckedBeside(node) >= MaxPinned)
     {

@@ -47,17 +47,10 @@ int32_t CPinTreeView::NumberOf(HTREEITEM node) const
     return static_cast<int32_t>(GetItemData(node));
 }
 
-bool CPinTreeView::HasNode(HTREEITEM node) const
-{
-    bool found = false;
-    ForEachNode([&](HTREEITEM each) { found = found || each == node; });
-    return found;
-}
-
 uint32_t CPinTreeView::CountCheckedBeside(HTREEITEM node) const
 {
     uint32_t count = 0;
-    ForEachNode([&](HTREEITEM each)
+    ForEachNode(*this, [&](HTREEITEM each)
                 { count += each != node && BoxOf(each) == kCheckedBox ? 1u : 0u; });
     return count;
 }

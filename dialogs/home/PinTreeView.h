@@ -19,9 +19,6 @@ public:
     // A menu item's Id, or a scanned entry's negative number.
     int32_t NumberOf(HTREEITEM node) const;
 
-    // Whether the tree has such a node; it need not be one.
-    bool HasNode(HTREEITEM node) const;
-
     // How many nodes other than `node` are checked.
     uint32_t CountCheckedBeside(HTREEITEM node) const;
 

@@ -1,10 +1,15 @@
 #include "dialogs/menu/CustomizeMenuDlg.h"
 
+#include "dialogs/menu/EditMenuDlg.h"
+#include "dialogs/menu/EditMenuItemDlg.h"
 #include "dialogs/menu/MenuCommands.h"
 #include "dialogs/menu/MenuOptionsDlg.h"
+#include "dialogs/menu/SelectFileDlg.h"
+#include "dialogs/menu/SelectLinkDlg.h"
 #include "frame/Localizer.h"
 #include "frame/Module.h"
 #include "frame/TavException.h"
+#include "menu/MenuKeys.h"
 #include "platform/Handles.h"
 #include "ui/ShellDialog.h"
 
@@ -125,6 +130,42 @@ LRESULT CCustomizeMenuDlg::OnCmdMoveDown(WORD /*code*/, WORD /*id*/, HWND /*cont
     return 0;
 }
 
+// Files and links become the same kind of item.
+LRESULT CCustomizeMenuDlg::OnCmdAddLink(WORD /*code*/, WORD /*id*/, HWND /*control*/,
+                                        BOOL& /*handled*/)
+{
+    if (const CMenuItemPtr parent = SelectedContainer())
+    {
+        CSelectLinkDlg dialog;
+        AddPicked(dialog, *parent);
+    }
+    return 0;
+}
+
+LRESULT CCustomizeMenuDlg::OnCmdAddFile(WORD /*code*/, WORD /*id*/, HWND /*control*/,
+                                        BOOL& /*handled*/)
+{
+    if (const CMenuItemPtr parent = SelectedContainer())
+    {
+        CSelectFileDlg dialog(std::wstring(), TRUE);
+        AddPicked(dialog, *parent);
+    }
+    return 0;
+}
+
+// A menu without a name isn't added.
+LRESULT CCustomizeMenuDlg::OnCmdAddMenu(WORD /*code*/, WORD /*id*/, HWND /*control*/,
+                                        BOOL& /*handled*/)
+{
+    const CMenuItemPtr parent = SelectedContainer();
+    if (!parent || !CanAddMenu(*parent))
+        return 0;
+    CEditMenuDlg dialog(std::wstring(), kNoImage);
+    if (RunSubDialog(dialog) && !dialog.Name.empty() && m_view.NodeOf(*parent))
+        ShowAdded(*parent, parent->AddMenu(dialog.Name, dialog.IconIndex, m_tree));
+    return 0;
+}
+
 // Without a question: the menu model refuses anything but what the user made.
 LRESULT CCustomizeMenuDlg::OnCmdRemove(WORD /*code*/, WORD /*id*/, HWND /*control*/,
                                        BOOL& /*handled*/)
@@ -134,6 +175,29 @@ LRESULT CCustomizeMenuDlg::OnCmdRemove(WORD /*code*/, WORD /*id*/, HWND /*contro
         return 0;
     if (RequireItemOf(node)->Remove(m_tree))
         m_view.DeleteItem(node);
+    return 0;
+}
+
+LRESULT CCustomizeMenuDlg::OnCmdEdit(WORD /*code*/, WORD /*id*/, HWND /*control*/,
+                                     BOOL& /*handled*/)
+{
+    const HTREEITEM node = m_view.GetSelectedItem();
+    if (!node)
+        return 0;
+    const CMenuItemPtr item = RequireItemOf(node);
+    if (!item->IsUserItem())
+        return 0;
+    if (item->CanAdd())
+    {
+        CEditMenuDlg dialog(item->Text, item->GetImage());
+        EditWith(dialog, *item);
+    }
+    else
+    {
+        CEditMenuItemDlg dialog(item->Text, item->GetFile(), item->GetImage(),
+                                item->GetImagePath());
+        EditWith(dialog, *item);
+    }
     return 0;
 }
 
@@ -168,18 +232,66 @@ CMenuItemPtr CCustomizeMenuDlg::RequireItemOf(HTREEITEM node) const
     return item;
 }
 
+CMenuItemPtr CCustomizeMenuDlg::SelectedContainer() const
+{
+    CMenuItemPtr item = ItemOf(m_view.GetSelectedItem());
+    return item && item->CanAdd() ? item : CMenuItemPtr();
+}
+
+template <class Dialog>
+bool CCustomizeMenuDlg::RunSubDialog(Dialog& dialog)
+{
+    if (dialog.RunModal(m_hWnd) == IDOK)
+        return true;
+    if (!HasForeground())
+    {
+        SyncCheckBoxes();
+        EndWith(IDCANCEL);
+    }
+    return false;
+}
+
+// Other messages come in while a sub-dialog is open: what it was opened for may be gone after it.
+template <class Dialog>
+void CCustomizeMenuDlg::AddPicked(Dialog& dialog, CMenuItem& parent)
+{
+    if (RunSubDialog(dialog) && m_view.NodeOf(parent))
+        ShowAdded(parent, parent.AddLink(dialog.Path, m_tree));
+}
+
+// The path is never changed.
+template <class Dialog>
+void CCustomizeMenuDlg::EditWith(Dialog& dialog, CMenuItem& item)
+{
+    if (!RunSubDialog(dialog))
+        return;
+    const HTREEITEM node = m_view.NodeOf(item);
+    if (!node)
+        return;
+    item.SetText(dialog.Name);
+    item.SetImage(dialog.IconIndex);
+    m_view.SetItemText(node, dialog.Name.c_str());
+    m_view.Show(node);
+}
+
+void CCustomizeMenuDlg::ShowAdded(const CMenuItem& parent, const CMenuItemPtr& item)
+{
+    if (item)
+        m_view.Show(m_view.InsertNode(m_view.NodeOf(parent), TVI_LAST, *item));
+}
+
 void CCustomizeMenuDlg::SyncCheckBoxes()
 {
-    m_view.ForEachNode(
-        [this](HTREEITEM node)
-        {
-            const CMenuItemPtr item = ItemOf(node);
-            if (!item || !HasSwitch(*item))
-                return;
-            const bool inactive = m_view.BoxOf(node) != kCheckedBox;
-            if (item->Inactive != inactive)
-                item->SetInactive(inactive);
-        });
+    ForEachNode(m_view,
+                [this](HTREEITEM node)
+                {
+                    const CMenuItemPtr item = ItemOf(node);
+                    if (!item || !HasSwitch(*item))
+                        return;
+                    const bool inactive = m_view.BoxOf(node) != kCheckedBox;
+                    if (item->Inactive != inactive)
+                        item->SetInactive(inactive);
+                });
 }
 
 void CCustomizeMenuDlg::ToggleBox(HTREEITEM node)

@@ -44,6 +44,18 @@ void CMenuTreeView::InsertChildren(HTREEITEM node, const CMenuItem& item)
     }
 }
 
+HTREEITEM CMenuTreeView::NodeOf(const CMenuItem& item) const
+{
+    HTREEITEM found = nullptr;
+    ForEachNode(*this,
+                [&](HTREEITEM node)
+                {
+                    if (ItemIdOf(node) == item.Id)
+                        found = node;
+                });
+    return found;
+}
+
 DWORD CMenuTreeView::ItemIdOf(HTREEITEM node) const
 {
     return static_cast<DWORD>(GetItemData(node));

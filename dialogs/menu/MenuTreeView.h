@@ -14,6 +14,9 @@ public:
     // Inserts a node for one item, with a box that shows whether it is active. Returns the node.
     HTREEITEM InsertNode(HTREEITEM parent, HTREEITEM after, const CMenuItem& item);
 
+    // The node of an item; null when it has none.
+    HTREEITEM NodeOf(const CMenuItem& item) const;
+
     // The Id of the node's item.
     DWORD ItemIdOf(HTREEITEM node) const;
 

@@ -44,6 +44,14 @@ public:
         item.hItem = node;
         return GetItem(item) ? item.lParam : 0;
     }
+    BOOL SetItemData(HTREEITEM node, LPARAM data)
+    {
+        TVITEMW item = {};
+        item.mask = TVIF_HANDLE | TVIF_PARAM;
+        item.hItem = node;
+        item.lParam = data;
+        return SetItem(item);
+    }
     UINT GetItemState(HTREEITEM node, UINT mask) const
     {
         return static_cast<UINT>(
@@ -153,6 +161,16 @@ public:
     void SetExtendedListViewStyle(DWORD style, DWORD mask)
     {
         SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, mask, static_cast<LPARAM>(style));
+    }
+    HIMAGELIST SetImageList(HIMAGELIST images, int kind)
+    {
+        return reinterpret_cast<HIMAGELIST>(SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(kind),
+                                                        reinterpret_cast<LPARAM>(images)));
+    }
+    // Pixels from one icon to the next. Returns the earlier spacing.
+    DWORD SetIconSpacing(int x, int y)
+    {
+        return static_cast<DWORD>(SendMessage(LVM_SETICONSPACING, 0, MAKELPARAM(x, y)));
     }
     int GetItemCount() const { return static_cast<int>(SendMessage(LVM_GETITEMCOUNT)); }
     BOOL SetItemCount(int count)

@@ -7,6 +7,8 @@
 #include "atlmodal.h"
 #include "atlthunk.h"
 
+#include <olectl.h>
+
 #include <utility>
 
 namespace ATL
@@ -93,6 +95,19 @@ public:
     virtual ~CWindowImplRoot() = default;
     CWindowImplRoot(const CWindowImplRoot&) = delete;
     CWindowImplRoot& operator=(const CWindowImplRoot&) = delete;
+
+    // Sends a child's notification back to the child. Returns its answer; clears `handled` for any
+    // other message.
+    LRESULT ReflectNotifications(UINT message, WPARAM wParam, LPARAM lParam, BOOL& handled)
+    {
+        if (message != WM_NOTIFY)
+        {
+            handled = FALSE;
+            return 0;
+        }
+        const HWND child = reinterpret_cast<const NMHDR*>(lParam)->hwndFrom;
+        return ::SendMessageW(child, OCM__BASE + message, wParam, lParam);
+    }
 
     CWndProcThunk m_thunk;
     _AtlCreateWndData m_createData;
@@ -337,6 +352,15 @@ using ATL::CWindowImpl;
 #define NOTIFY_CODE_HANDLER(notifyCode, func)                                                      \
     if (uMsg == WM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == (notifyCode))               \
     ATL_RUN_HANDLER(func(static_cast<int>(wParam), reinterpret_cast<NMHDR*>(lParam), bHandled))
+
+// In a control: a notification of its own that the parent has sent back.
+#define REFLECTED_NOTIFY_CODE_HANDLER(notifyCode, func)                                            \
+    if (uMsg == OCM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == (notifyCode))              \
+    ATL_RUN_HANDLER(func(static_cast<int>(wParam), reinterpret_cast<NMHDR*>(lParam), bHandled))
+
+// In a parent: sends notifications back to the controls that they come from.
+#define REFLECT_NOTIFICATIONS()                                                                    \
+    ATL_RUN_HANDLER(ReflectNotifications(uMsg, wParam, lParam, bHandled))
 
 #define CHAIN_MSG_MAP(Base)                                                                        \
     {                                                                                              \

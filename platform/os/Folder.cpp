@@ -7,6 +7,8 @@ namespace os
 namespace
 {
 
+constexpr DWORD kHidden = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+
 // A link that led back to a folder above it would make a walk endless.
 bool IsForeignToTheHandheld(const WIN32_FIND_DATAW& found)
 {
@@ -17,18 +19,19 @@ bool IsForeignToTheHandheld(const WIN32_FIND_DATAW& found)
 
 } // namespace
 
-std::vector<FolderEntry> ListFolder(const std::wstring& folder)
+std::vector<FolderEntry> ListFolder(const std::wstring& pattern)
 {
     std::vector<FolderEntry> entries;
     WIN32_FIND_DATAW found = {};
-    const UniqueFind find(FindFirstFileW((folder + L"\\*.*").c_str(), &found));
+    const UniqueFind find(FindFirstFileW(pattern.c_str(), &found));
     if (!find)
         return entries;
     do
     {
         const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        const bool isHidden = (found.dwFileAttributes & kHidden) != 0;
         if (!IsForeignToTheHandheld(found))
-            entries.push_back({found.cFileName, isFolder});
+            entries.push_back({found.cFileName, isFolder, isHidden});
     } while (FindNextFileW(find.get(), &found));
     return entries;
 }

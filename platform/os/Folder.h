@@ -12,10 +12,12 @@ struct FolderEntry
 {
     std::wstring Name;
     bool IsFolder;
+    // Hidden, or a part of the system.
+    bool IsHidden;
 };
 
-// The entries of a folder, given without a backslash at its end, in the file system's order. None
-// for a folder that can't be opened.
-std::vector<FolderEntry> ListFolder(const std::wstring& folder);
+// The entries that match a pattern such as a folder's "\Windows\*.*", in the file system's order.
+// None for a folder that can't be opened.
+std::vector<FolderEntry> ListFolder(const std::wstring& pattern);
 
 } // namespace os

@@ -20,6 +20,12 @@ std::wstring FullPath(const std::wstring& path)
     return full;
 }
 
+DWORD_PTR SmallIconInfo(const std::wstring& path, SHFILEINFOW& info)
+{
+    return SHGetFileInfoW(FullPath(path).c_str(), 0, &info, sizeof(info),
+                          SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
+}
+
 } // namespace
 
 HIMAGELIST SystemIcon(const std::wstring& path, DWORD attributes, UINT flags, int& index)
@@ -29,6 +35,19 @@ HIMAGELIST SystemIcon(const std::wstring& path, DWORD attributes, UINT flags, in
                                           flags | SHGFI_SYSICONINDEX | SHGFI_USEFILEATTRIBUTES);
     index = info.iIcon;
     return reinterpret_cast<HIMAGELIST>(list);
+}
+
+HIMAGELIST SmallIcons()
+{
+    SHFILEINFOW info = {};
+    return reinterpret_cast<HIMAGELIST>(SmallIconInfo(L"\\", info));
+}
+
+int SmallIconOf(const std::wstring& path)
+{
+    SHFILEINFOW info = {};
+    SmallIconInfo(path, info);
+    return info.iIcon;
 }
 
 } // namespace os

@@ -13,25 +13,10 @@
 #include "menu/MenuLoader.h"
 #include "platform/os/Registry.h"
 #include "tests/menu/support/MenuFixture.h"
+#include "tests/support/KeyName.h"
 
 namespace
 {
-
-// The system's own name of an open key.
-std::wstring SystemPathOf(HKEY key)
-{
-    using QueryKeyFunction = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
-    const auto address = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryKey");
-    const auto queryKey = reinterpret_cast<QueryKeyFunction>(reinterpret_cast<void*>(address));
-    constexpr int kNameInformation = 3;
-    std::vector<BYTE> buffer(4096);
-    ULONG size = 0;
-    EXPECT_EQ(0, queryKey(key, kNameInformation, buffer.data(), 4096, &size));
-    ULONG bytes = 0;
-    memcpy(&bytes, buffer.data(), sizeof(bytes));
-    return std::wstring(reinterpret_cast<const wchar_t*>(buffer.data() + sizeof(bytes)),
-                        bytes / sizeof(wchar_t));
-}
 
 // Makes the key `path` a link to the key `target`.
 void CreateLink(const std::wstring& path, const std::wstring& target)

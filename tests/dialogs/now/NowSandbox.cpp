@@ -1,6 +1,7 @@
 #include "tests/dialogs/now/NowSandbox.h"
 
 #include "platform/os/Registry.h"
+#include "tests/support/KeyName.h"
 
 #include <gtest/gtest.h>
 
@@ -10,23 +11,6 @@ namespace
 std::wstring PathOf(const std::wstring& plugin)
 {
     return std::wstring(kNowKey) + L"\\" + plugin;
-}
-
-// The name by which the system itself knows an open key, as a link has to name it.
-std::wstring SystemPathOf(HKEY key)
-{
-    using QueryKeyFunction = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
-    const auto address = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryKey");
-    const auto queryKey = reinterpret_cast<QueryKeyFunction>(reinterpret_cast<void*>(address));
-    constexpr int kNameInformation = 3;
-    struct
-    {
-        ULONG bytes;
-        wchar_t name[1022];
-    } information = {};
-    ULONG size = 0;
-    EXPECT_EQ(0, queryKey(key, kNameInformation, &information, sizeof(information), &size));
-    return std::wstring(information.name, information.bytes / sizeof(wchar_t));
 }
 
 } // namespace

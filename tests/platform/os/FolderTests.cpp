@@ -16,7 +16,7 @@ using Lines = std::vector<std::wstring>;
 Lines Listed(const std::wstring& folder)
 {
     Lines lines;
-    for (const os::FolderEntry& entry : os::ListFolder(folder))
+    for (const os::FolderEntry& entry : os::ListFolder(folder + L"\\*.*"))
         lines.push_back(entry.Name + (entry.IsFolder ? L"\\" : L""));
     std::sort(lines.begin(), lines.end());
     return lines;

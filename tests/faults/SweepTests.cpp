@@ -1,0 +1,51 @@
+// Every call that the exports make of the system fails once, and then for ever: only the stated
+// results leave, nothing leaks, the owner is enabled, nothing is written that is not meant.
+#include "tests/faults/Sweep.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <tuple>
+
+namespace
+{
+
+constexpr const char* kExports[] = {"CustomizeMenu", "CustomizeHome", "CustomizeNow",
+                                    "InstallWizard", "SelectCity"};
+
+// Points per function in the quick run; the long one takes all.
+unsigned MostPerFunction(FaultKind kind)
+{
+    if (std::getenv("TAV_LONG"))
+        return ~0u;
+    return kind == FaultKind::System ? 2 : 12;
+}
+
+using SweepParameters = std::tuple<const char*, FaultKind, bool>;
+
+class FaultSweep : public testing::TestWithParam<SweepParameters>
+{
+};
+
+std::string NameOf(const testing::TestParamInfo<SweepParameters>& info)
+{
+    constexpr const char* kKinds[] = {"Memory", "Registry", "System"};
+    const auto& [name, kind, forEver] = info.param;
+    return std::string(name) + kKinds[static_cast<size_t>(kind)] + (forEver ? "ForEver" : "Once");
+}
+
+} // namespace
+
+TEST_P(FaultSweep, LeavesNothingBehindAtAnyPoint)
+{
+    const auto& [name, kind, forEver] = GetParam();
+    CSweep sweep(name, SessionEnd::Done);
+    sweep.Run(sweep.Points(kind, forEver, MostPerFunction(kind)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Exports, FaultSweep,
+    testing::Combine(testing::ValuesIn(kExports),
+                     testing::Values(FaultKind::Memory, FaultKind::Registry, FaultKind::System),
+                     testing::Bool()),
+    NameOf);
