@@ -8,9 +8,8 @@
 #include <thread>
 
 // The name of the dialog that a view belongs to; null when it is no view of a dialog. The views, by
-// the names that scripts/pictures.sh uses: "customize-menu", "customize-menu-popup",
-// "customize-menu-context", "menu-options", "customize-home", "customize-home-programs",
-// "customize-now", "install-wizard" and those of CityViews.h.
+// the names that scripts/pictures.sh uses: "customize-home", "customize-home-programs",
+// "customize-now", "install-wizard" and those of MenuViews.h and CityViews.h.
 const wchar_t* DialogOfView(const std::wstring& view);
 
 class CPictureDriver
@@ -33,13 +32,7 @@ private:
     // Each gives what went wrong, an empty text when nothing did.
     std::wstring TakePicture();
     std::wstring BringUpView();
-    std::wstring BringUpMenuView();
     std::wstring BringUpHomeView();
-    std::wstring OpenContextMenu(HWND tree);
-    std::wstring OpenSoftKeyMenu();
-    std::wstring OpenMenuOptions();
-    HWND WaitForDialog(HWND other) const;
-    bool WaitForPopup() const;
     void CloseAll();
 
     DWORD m_uiThread;

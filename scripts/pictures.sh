@@ -15,6 +15,7 @@ trap 'scripts/session.sh stop "$session"' EXIT
 step "Starting virtual screens" scripts/session.sh start "$session"
 
 views=(home customize-menu customize-menu-popup customize-menu-context menu-options
+    edit-menu edit-item choose-icon select-file select-link
     customize-home customize-home-programs customize-now install-wizard
     select-city select-city-search select-city-panel select-city-no-database now now-professional)
 
@@ -65,8 +66,10 @@ for screen in 240x320 320x240 480x640; do
 done
 take_all 240x320 en launcher-menu
 for screen in 240x320 320x240 480x640; do
-    take_all "$screen" de customize-home customize-now install-wizard
+    take_all "$screen" de customize-menu customize-menu-popup menu-options edit-menu edit-item \
+        choose-icon select-file select-link customize-home customize-now install-wizard select-city
 done
-take_all 240x320 de home customize-menu menu-options select-city now
-take_all 240x320 ru home customize-menu menu-options customize-home customize-now install-wizard
+take_all 240x320 de home now
+take_all 240x320 ru home customize-menu menu-options edit-item customize-home customize-now \
+    install-wizard
 echo "The pictures are in $target."

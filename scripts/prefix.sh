@@ -4,7 +4,7 @@ export WINEDEBUG=-all
 export WINEARCH=win64
 
 # Changes with whatever make_prefix sets up, so that an older prefix is made anew.
-prefix_version=2
+prefix_version=3
 
 reg_set() { # KEY NAME TYPE VALUE
     wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1
@@ -35,7 +35,8 @@ make_prefix() { # DIR DPI
 }
 
 # Another prefix at another resolution: a registry and user folders of its own, the system's files,
-# which are most of it, shared with the first.
+# which are most of it, shared with the first. Each by itself: a linked folder is hidden from the
+# dialogs, which don't follow links.
 copy_prefix() { # FROM TO DPI
     [ -f "$2/.version-$prefix_version-$3" ] && return 0
     local from entry
@@ -45,7 +46,7 @@ copy_prefix() { # FROM TO DPI
     cp -a "$from"/*.reg "$from/.update-timestamp" "$from/dosdevices" "$2"
     for entry in "$from"/drive_c/*; do
         if [ "${entry##*/}" = windows ]; then
-            ln -s "$entry" "$2/drive_c/windows"
+            cp -al "$entry" "$2/drive_c" || cp -a "$entry" "$2/drive_c"
         else
             cp -a "$entry" "$2/drive_c"
         fi

@@ -2,6 +2,7 @@
 
 #include "dialogs/menu/FileChoice.h"
 #include "frame/Localizer.h"
+#include "platform/os/SystemIcon.h"
 #include "ui/RedrawPause.h"
 #include "ui/ShellDialog.h"
 #include "ui/WaitCursor.h"
@@ -52,9 +53,11 @@ void CSelectLinkDlg::FillTree()
     TVINSERTSTRUCTW insert = {};
     insert.hParent = TVI_ROOT;
     insert.hInsertAfter = TVI_LAST;
-    insert.item.mask = TVIF_TEXT | TVIF_PARAM;
+    insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     insert.item.pszText = text.data();
     insert.item.lParam = kRootNumber;
+    insert.item.iImage = os::SmallIconOf(m_scan.ProgramsFolder);
+    insert.item.iSelectedImage = insert.item.iImage;
     const HTREEITEM root = m_tree.InsertItem(insert);
     m_scan.Fill(m_tree, root, nullptr);
     m_tree.Expand(root, TVE_TOGGLE);

@@ -8,7 +8,8 @@
 TEST(PictureViews, EachViewBelongsToADialogThatCanBeOpened)
 {
     for (const wchar_t* view :
-         {L"customize-menu", L"menu-options", L"customize-home", L"customize-home-programs",
+         {L"customize-menu", L"menu-options", L"edit-menu", L"edit-item", L"choose-icon",
+          L"select-file", L"select-link", L"customize-home", L"customize-home-programs",
           L"customize-now", L"install-wizard", L"select-city", L"select-city-search",
           L"select-city-panel", L"select-city-no-database"})
     {
