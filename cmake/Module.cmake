@@ -1,6 +1,7 @@
 # The module itself: the rooms linked into one DLL, with its resources and the five exports.
 add_library(TavLumenarDialogs SHARED
-    frame/DllMain.cpp frame/Exports.cpp frame/Terminate.cpp frame/TavLumenarDialogs.def resources/Module.rc)
+    frame/DllMain.cpp frame/ExceptionMemory.cpp frame/Exports.cpp frame/Terminate.cpp
+    frame/TavLumenarDialogs.def resources/Module.rc)
 set_target_properties(TavLumenarDialogs PROPERTIES PREFIX "" LINKER_LANGUAGE CXX)
 target_compile_definitions(TavLumenarDialogs PRIVATE TAVLUMENAR_DIALOGS_EXPORTS)
 target_include_directories(TavLumenarDialogs PUBLIC ${PROJECT_SOURCE_DIR})

@@ -67,6 +67,7 @@ bool GetSizeOf(const UniqueFile& file, uint32_t& size)
 bool CSkinStorage::Open(const wchar_t* path)
 {
     m_archive.reset();
+    m_file.reset();
     m_isFolder = false;
     const size_t length = LengthWithin(path);
     if (!IsPathLength(length))
@@ -94,8 +95,9 @@ bool CSkinStorage::OpenFolder(size_t length)
 bool CSkinStorage::OpenArchive()
 {
     const CAnsiText path(m_path);
-    if (path.get())
-        m_archive.reset(unzOpen(path.get()));
+    m_file.reset(path.get() ? std::fopen(path.get(), "rb") : nullptr);
+    if (m_file)
+        m_archive.reset(OpenZip(m_file.get()));
     return static_cast<bool>(m_archive);
 }
 

@@ -14,6 +14,13 @@ constexpr size_t kPathCapacity = 261;
 // terminated.
 constexpr uint32_t kMemberPadding = 4;
 
+struct StreamHandle
+{
+    using Type = std::FILE*;
+    static Type Null() { return nullptr; }
+    static void Close(std::FILE* file) { std::fclose(file); }
+};
+
 struct ZipHandle
 {
     using Type = unzFile;
@@ -61,6 +68,8 @@ private:
     bool ReadFileMember(const wchar_t* name, void* buffer, uint32_t size) const;
 
     wchar_t m_path[kPathCapacity] = {};
+    // The archive and the file that it reads from, which must outlive it.
+    CUnique<StreamHandle> m_file;
     CUnique<ZipHandle> m_archive;
     bool m_isFolder = false;
     uint32_t m_lastMemberAttribute = UINT32_MAX;

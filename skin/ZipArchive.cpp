@@ -89,7 +89,28 @@ private:
     bool m_open = false;
 };
 
+// The file that is open already, in the place of a path.
+voidpf ZCALLBACK UseOpenFile(voidpf file, const void* /*path*/, int /*mode*/)
+{
+    return file;
+}
+
+int ZCALLBACK KeepOpen(voidpf /*file*/, voidpf /*stream*/)
+{
+    return 0;
+}
+
 } // namespace
+
+unzFile OpenZip(std::FILE* file)
+{
+    zlib_filefunc64_def functions = {};
+    fill_fopen64_filefunc(&functions);
+    functions.zopen64_file = UseOpenFile;
+    functions.zclose_file = KeepOpen;
+    functions.opaque = file;
+    return unzOpen2_64(nullptr, &functions);
+}
 
 uint32_t ZipMemberSize(unzFile archive, const char* name)
 {

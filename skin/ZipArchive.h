@@ -3,11 +3,16 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 
 #include <unzip.h>
 
 namespace skin
 {
+
+// Opens the archive in `file`, which the caller keeps open as long as the archive; minizip would
+// forget a file of its own when memory runs out. Null when it is no archive; unzClose closes it.
+unzFile OpenZip(std::FILE* file);
 
 // Finds the member `name` without regard to case (of several, the first) and returns its size in
 // bytes. 0 when it is missing, empty, or can't be read as a whole: encrypted, of an unknown method,

@@ -71,7 +71,8 @@ bool HasMemoryForText(const CVORegistry& key)
 Registration ReadPlugin(const CVORegistry& now, const std::wstring& keyName, Plugin& plugin)
 {
     CVORegistry key(now.Key, keyName.c_str(), FALSE, FALSE, 0);
-    if (!IsInstalled(key))
+    // What can't be read can't be told to be malformed either: it must not be deleted for it.
+    if (!key.Key || !IsInstalled(key))
         return Registration::Hidden;
     std::wstring text = ShownText(key);
     if (text.empty() && !HasMemoryForText(key))

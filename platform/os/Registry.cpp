@@ -1,5 +1,7 @@
 #include "platform/os/Registry.h"
 
+#include "platform/Handles.h"
+
 #include <atomic>
 
 namespace os
@@ -36,6 +38,13 @@ REGSAM Rights(REGSAM access)
 // The 255 characters that the system allows and the terminator; longer names are met all the same.
 constexpr DWORD kUsualNameSize = 256;
 constexpr DWORD kLargestNameSize = 0x8000;
+
+struct OwnedKey
+{
+    using Type = HKEY;
+    static Type Null() { return nullptr; }
+    static void Close(HKEY key) { CloseKey(key); }
+};
 
 LONG DeleteSubkeys(HKEY key)
 {
@@ -158,20 +167,17 @@ LONG EnumValue(HKEY key, DWORD index, std::wstring& name)
 
 LONG DeleteKeyTree(HKEY parent, const wchar_t* name)
 {
-    HKEY key = nullptr;
+    // Running out of memory below leaves here as an exception.
+    CUnique<OwnedKey> key;
     Count(g_counts.open);
     LONG error = RegOpenKeyExW(parent, WithoutLeadingBackslashes(name), REG_OPTION_OPEN_LINK,
-                               Rights(0), &key);
+                               Rights(0), key.put());
     if (error != ERROR_SUCCESS)
         return error;
-    if (IsLink(key))
-    {
-        error = DeleteLink(key);
-        CloseKey(key);
-        return error;
-    }
-    error = DeleteSubkeys(key);
-    CloseKey(key);
+    if (IsLink(key.get()))
+        return DeleteLink(key.get());
+    error = DeleteSubkeys(key.get());
+    key.reset();
     if (error != ERROR_SUCCESS)
         return error;
     Count(g_counts.deleteKey);

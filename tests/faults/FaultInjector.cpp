@@ -84,6 +84,9 @@ std::ostream& operator<<(std::ostream& stream, const FaultPoint& point)
 
 CFaultInjector::CFaultInjector(HMODULE module) : m_module(module)
 {
+    // Stays, so that it doesn't count as growth.
+    g_writes.reserve(256);
+    g_writes.clear();
     Disarm();
     for (size_t i = 0; i < kFaultFunctionCount; ++i)
     {

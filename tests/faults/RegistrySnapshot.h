@@ -1,8 +1,8 @@
 // Brings the sandbox's registry back to what it was, after a session has written to it.
 #pragma once
 
-// Keeps a copy of everything below HKEY_LOCAL_MACHINE\SOFTWARE as it is at construction. The sandbox
-// must live longer.
+// Keeps a copy of everything below HKEY_LOCAL_MACHINE\SOFTWARE as it is at construction. The
+// sandbox must live longer.
 class CRegistrySnapshot
 {
 public:

@@ -18,13 +18,33 @@ constexpr int kMostCancels = 20;
 CScriptDriver* g_driver;
 HWND g_window;
 
-BOOL CALLBACK EndByForce(HWND window, LPARAM /*unused*/)
+bool IsDialog(HWND window)
 {
     wchar_t name[16] = {};
     GetClassNameW(window, name, 16);
-    if (lstrcmpW(name, L"#32770") == 0)
+    return lstrcmpW(name, L"#32770") == 0;
+}
+
+BOOL CALLBACK EndByForce(HWND window, LPARAM /*unused*/)
+{
+    if (IsDialog(window))
         EndDialog(window, IDCANCEL);
     return TRUE;
+}
+
+BOOL CALLBACK FindHiddenDialog(HWND window, LPARAM found)
+{
+    if (IsDialog(window) && !IsWindowVisible(window))
+        *reinterpret_cast<bool*>(found) = true;
+    return TRUE;
+}
+
+// A dialog that isn't shown yet: the ones behind it may already be enabled again.
+bool IsDialogOpening()
+{
+    bool found = false;
+    EnumThreadWindows(GetCurrentThreadId(), FindHiddenDialog, reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
 } // namespace
@@ -36,8 +56,8 @@ CScriptDriver::CScriptDriver()
     windowClass.lpszClassName = kClass;
     RegisterClassW(&windowClass);
     g_driver = this;
-    m_window = CreateWindowExW(0, kClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
-                               nullptr);
+    m_window =
+        CreateWindowExW(0, kClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     g_window = m_window;
     m_hook = SetWindowsHookExW(WH_CALLWNDPROC, WatchMessage, nullptr, GetCurrentThreadId());
     SetTimer(m_window, 1, kTick, nullptr);
@@ -112,12 +132,12 @@ void CScriptDriver::TakeStep()
         return;
     }
     const HWND dialog = OpenDialogOf(GetCurrentThreadId());
-    if (!dialog)
+    if (!dialog || IsDialogOpening())
         return;
     const std::wstring title = TextOf(dialog);
-    const auto next = std::find_if(m_script.begin() + static_cast<ptrdiff_t>(m_next),
-                                   m_script.end(),
-                                   [&](const ScriptStep& step) { return step.title == title; });
+    const auto next =
+        std::find_if(m_script.begin() + static_cast<ptrdiff_t>(m_next), m_script.end(),
+                     [&](const ScriptStep& step) { return step.title == title; });
     if (next == m_script.end())
     {
         Cancel(dialog);

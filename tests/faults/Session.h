@@ -27,6 +27,10 @@ public:
     virtual BOOL Call(const CModule& module, HWND owner) = 0;
     // What a person does in it.
     virtual Script Steps(SessionEnd end) const = 0;
+    // Whether it may write to that place in the registry: a key, or a key, "|" and a value's name.
+    virtual bool IsOwnPlace(const std::wstring& place) const = 0;
+    // Whether opening the dialog deletes keys with malformed values.
+    virtual bool CleansUp() const { return false; }
     // Whether a call that was not confirmed has left what the host handed over as it was.
     virtual bool IsHostUntouched() const { return true; }
 };

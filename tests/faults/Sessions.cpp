@@ -35,6 +35,13 @@ std::function<void(HWND)> Post(UINT command)
     return [command](HWND dialog) { PostCommand(dialog, command); };
 }
 
+// As with the arrow keys: buttons without pictures have no size to be tapped.
+std::function<void(HWND)> Choose(int control)
+{
+    return [control](HWND dialog)
+    { CheckRadioButton(dialog, IDC_CLASSIC, IDC_PROFESSIONAL, control); };
+}
+
 std::function<void(HWND)> Click(int control)
 {
     return [control](HWND dialog) { SendDlgItemMessageW(dialog, control, BM_CLICK, 0, 0); };
@@ -60,6 +67,11 @@ std::function<void(HWND)> WithNode(int control, const wchar_t* path,
     };
 }
 
+bool Contains(const std::wstring& text, const wchar_t* part)
+{
+    return text.find(part) != std::wstring::npos;
+}
+
 void SwitchBox(const CTreeDriver& tree, HTREEITEM node)
 {
     tree.SetBox(node, tree.BoxOf(node) == kBoxOn ? kBoxOff : kBoxOn);
@@ -68,6 +80,13 @@ void SwitchBox(const CTreeDriver& tree, HTREEITEM node)
 class CMenuSession : public CSession
 {
 public:
+    CMenuSession()
+    {
+        m_start.AddFile(L"Programs\\Calculator.lnk");
+        m_registry.SetText(L"SOFTWARE\\Orvane 2\\Tav Lumenar\\Menu\\Settings", L"DefFolder",
+                           m_start.PathOf(L"Programs"));
+    }
+
     BOOL Call(const CModule& module, HWND owner) override
     {
         return module.CustomizeMenu(owner, 0, 0, 0);
@@ -87,11 +106,40 @@ public:
                       {kOptions, Click(IDC_MOST_USED_FIRST)},
                       {kOptions, TurnScreen},
                       {kOptions, Post(IDOK)},
+                      {kTitle, Do(L"Programs", ID_ADD_MENU)},
+                      {kItem, Name(L"Extra")},
+                      {kItem, Post(IDC_CHANGE_ICON)},
+                      {kIcon, Post(IDOK)},
+                      {kItem, TurnScreen},
+                      {kItem, Post(IDOK)},
+                      {kTitle, Do(L"Programs/Maps", ID_EDIT_ITEM)},
+                      {kItem, Name(L"Charts")},
+                      {kItem, Post(IDOK)},
+                      {kTitle, Do(L"Programs", ID_ADD_LINK)},
+                      {kLink, TurnScreen},
+                      {kLink, Post(IDCANCEL)},
+                      {kTitle, Do(L"Programs", ID_ADD_FILE)},
+                      {kFile, TurnScreen},
+                      {kFile, Post(IDCANCEL)},
                       {kTitle, Switch(L"Tools/Alarm")}});
+    }
+
+    bool IsOwnPlace(const std::wstring& place) const override
+    {
+        return Contains(place, L"\\Tav Menu\\Customize");
     }
 
 private:
     static constexpr const wchar_t* kTitle = L"Customize Menu";
+    static constexpr const wchar_t* kItem = L"Edit Item";
+    static constexpr const wchar_t* kIcon = L"Choose Icon";
+    static constexpr const wchar_t* kLink = L"Select Link";
+    static constexpr const wchar_t* kFile = L"Select File";
+
+    static std::function<void(HWND)> Name(const wchar_t* text)
+    {
+        return [text](HWND dialog) { SetDlgItemTextW(dialog, IDC_ITEM_NAME, text); };
+    }
 
     static std::function<void(HWND)> Switch(const wchar_t* path)
     {
@@ -114,6 +162,8 @@ private:
     }
 
     CMenuSandbox m_registry;
+    CStartMenu m_start;
+    CQuietMenuProcess m_menuProcess;
 };
 
 class CHomeSession : public CSession
@@ -124,8 +174,7 @@ public:
         m_start.AddFile(L"Programs\\Calculator.lnk");
         m_start.AddFile(L"Programs\\Games\\Bubbles.lnk");
         m_start.AddFile(L"Programs\\Mail.exe");
-        constexpr const wchar_t* kList =
-            L"SOFTWARE\\Orvane 2\\Tav Lumenar\\Ratings\\GlobalMRUList";
+        constexpr const wchar_t* kList = L"SOFTWARE\\Orvane 2\\Tav Lumenar\\Ratings\\GlobalMRUList";
         const WORD index[] = {0, 0x8000, 1, 7};
         m_registry.SetRaw(kList, L"Index", REG_BINARY, index, sizeof(index));
         m_registry.SetText(kList, L"0", L"m:\\" + std::wstring(kProductMenu) + L"\\Tools\\Alarm");
@@ -148,6 +197,11 @@ public:
                       {kTitle, Switch(L"Programs/Mail")},
                       {kTitle, Switch(L"Settings/Clock")},
                       {L"Tav Lumenar", Post(IDOK)}});
+    }
+
+    bool IsOwnPlace(const std::wstring& place) const override
+    {
+        return Contains(place, L"\\Ratings\\GlobalMRUList");
     }
 
 private:
@@ -199,6 +253,12 @@ public:
         return Ended(kTitle, end, {{kTitle, Check(0)}, {kTitle, Check(2)}});
     }
 
+    bool IsOwnPlace(const std::wstring& place) const override
+    {
+        return Contains(place, L"\\Tav Menu\\Now\\") && Contains(place, L"|Inactive");
+    }
+    bool CleansUp() const override { return true; }
+
 private:
     static std::function<void(HWND)> Check(int row)
     {
@@ -222,8 +282,11 @@ public:
     {
         SetInstallFolder(m_registry, m_folder);
         const COLORREF red = RGB(200, 30, 10);
-        WriteWizardArchive(m_folder, {{"Classic.bmp", BitmapFileOf(60, 80, red)},
-                                      {"Professional.bmp", BitmapFileOf(70, 90, red)}});
+        const std::string classic = BitmapFileOf(60, 80, red);
+        const std::string professional = BitmapFileOf(70, 90, red);
+        const zip::Bytes archive = zip::Archive(
+            {zip::Stored("Classic.bmp", classic), zip::Stored("Professional.bmp", professional)});
+        m_folder.Write(L"qa_wizard.dat", std::string(archive.begin(), archive.end()));
     }
 
     BOOL Call(const CModule& module, HWND /*owner*/) override
@@ -235,7 +298,12 @@ public:
     {
         constexpr const wchar_t* kTitle = L"Tav Lumenar";
         return Ended(kTitle, end,
-                     {{kTitle, Click(IDC_CLASSIC)}, {kTitle, Click(IDC_PROFESSIONAL)}});
+                     {{kTitle, Choose(IDC_CLASSIC)}, {kTitle, Choose(IDC_PROFESSIONAL)}});
+    }
+
+    bool IsOwnPlace(const std::wstring& place) const override
+    {
+        return Contains(place, L"\\NowScreen\\PluginEnvironment");
     }
 
 private:
@@ -275,11 +343,12 @@ public:
         return std::memcmp(&m_city, &m_before, sizeof(m_city)) == 0;
     }
 
+    bool IsOwnPlace(const std::wstring& place) const override { return place.empty(); }
+
 private:
     static std::function<void(HWND)> Type(const wchar_t* text)
     {
-        return [text](HWND dialog)
-        {
+        return [text](HWND dialog) {
             SendDlgItemMessageW(dialog, IDC_CITY_SEARCH, WM_SETTEXT, 0,
                                 reinterpret_cast<LPARAM>(text));
         };

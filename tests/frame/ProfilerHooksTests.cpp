@@ -6,11 +6,14 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace
 {
 
 constexpr wchar_t kComplete[] = L"profiler_complete.dll";
 constexpr wchar_t kPartial[] = L"profiler_partial.dll";
+constexpr wchar_t kThrowing[] = L"profiler_throwing.dll";
 constexpr wchar_t kLibraryName[] = L"tavprofiler.dll";
 
 std::wstring ProgramFolder()
@@ -105,6 +108,18 @@ TEST(ProfilerHooks, P2WithALibraryThatExportsOnlyEndDurationTheOtherFieldsStayNu
     EXPECT_EQ(nullptr, hooks.Flush);
     hooks.EndDurationProbe(7);
     EXPECT_EQ(7, Ask<INT_PTR>(hooks.Library, "LastToken"));
+}
+
+// Nothing is caught on the way: the library's exception is the caller's affair, like any other.
+TEST(ProfilerHooks, P2WhatTheLibraryThrowsLeavesTheProbe)
+{
+    CProfilerHooks hooks;
+    hooks.Load(kThrowing);
+    ASSERT_NE(nullptr, hooks.EndDuration);
+    EXPECT_THROW(hooks.EndDurationProbe(7), std::runtime_error);
+    EXPECT_EQ(7, Ask<INT_PTR>(hooks.Library, "LastToken"));
+    EXPECT_THROW(hooks.EndDurationProbe(8), std::runtime_error) << "the hooks stay as they were";
+    EXPECT_EQ(8, Ask<INT_PTR>(hooks.Library, "LastToken"));
 }
 
 TEST(ProfilerHooks, ALibraryThatIsLoadedStays)

@@ -3,8 +3,8 @@
 std::wstring SystemPathOf(HKEY key)
 {
     using QueryKeyFunction = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
-    static const auto queryKey = reinterpret_cast<QueryKeyFunction>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryKey")));
+    static const auto queryKey = reinterpret_cast<QueryKeyFunction>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryKey")));
     constexpr int kNameInformation = 3;
     struct
     {

@@ -1,6 +1,8 @@
-// A profiling library for the tests of the hooks: it notes the tokens that it is given. Built
-// twice, with all three exports and with only one of them.
+// A profiling library for the tests of the hooks: it notes the tokens that it is given. Built with
+// all three exports, with only one of them, and with one that throws.
 #include "platform/Win.h"
+
+#include <stdexcept>
 
 namespace
 {
@@ -16,6 +18,9 @@ extern "C"
     {
         g_lastToken = token;
         ++g_calls;
+#ifdef PROFILER_THROWING
+        throw std::runtime_error("no profile");
+#endif
     }
 
     // For the test: the last token and how many there were.
