@@ -88,14 +88,20 @@ struct EmptyTemplate
     WORD title = 0;
 };
 
+void FillScreen(HWND dialog)
+{
+    SetWindowPos(dialog, nullptr, 0, 0, GetSystemMetrics(SM_CXSCREEN),
+                 GetSystemMetrics(SM_CYSCREEN), SWP_NOZORDER);
+}
+
 void ShowTree(HWND dialog, const LimitRequest& request)
 {
-    const int width = GetSystemMetrics(SM_CXSCREEN);
-    const int height = GetSystemMetrics(SM_CYSCREEN);
-    SetWindowPos(dialog, nullptr, 0, 0, width, height, SWP_NOZORDER);
-    const HWND tree = CreateWindowExW(
-        0, WC_TREEVIEWW, L"", WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES, 0, 24, width,
-        height - 24, dialog, reinterpret_cast<HMENU>(INT_PTR{kTreeId}), nullptr, nullptr);
+    RECT client = {};
+    GetClientRect(dialog, &client);
+    const HWND tree =
+        CreateWindowExW(0, WC_TREEVIEWW, L"", WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES,
+                        0, 24, client.right, client.bottom - 24, dialog,
+                        reinterpret_cast<HMENU>(INT_PTR{kTreeId}), nullptr, nullptr);
     SetWindowLongW(tree, GWL_STYLE, GetWindowLongW(tree, GWL_STYLE) | TVS_CHECKBOXES);
     SendMessageW(tree, WM_SETREDRAW, FALSE, 0);
     TVINSERTSTRUCTW insert = {};
@@ -109,21 +115,43 @@ void ShowTree(HWND dialog, const LimitRequest& request)
     SendMessageW(tree, WM_SETREDRAW, TRUE, 0);
 }
 
-INT_PTR CALLBACK LimitProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+// The control makes the pictures of its boxes but leaves them behind.
+void FreeBoxes(HWND dialog)
+{
+    ImageList_Destroy(reinterpret_cast<HIMAGELIST>(
+        SendDlgItemMessageW(dialog, kTreeId, TVM_GETIMAGELIST, TVSIL_STATE, 0)));
+}
+
+void GiveSoftKeys(HWND dialog, const BareDialog& request)
+{
+    SHINITDLGINFO info = {SHIDIM_FLAGS, dialog, SHIDIF_SIZEDLGFULLSCREEN};
+    SHInitDialog(&info);
+    SHMENUBARINFO bar = {};
+    bar.cbSize = sizeof(bar);
+    bar.hwndParent = dialog;
+    bar.dwFlags = SHCMBF_HMENU | SHCMBF_HIDESIPBUTTON;
+    bar.nToolBarId = request.SoftKeyMenu;
+    bar.hInstRes = request.SoftKeys;
+    SHCreateMenuBar(&bar);
+}
+
+// The one that is open.
+const BareDialog* g_bareDialog;
+
+INT_PTR CALLBACK BareProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM /*lParam*/)
 {
     if (message == WM_INITDIALOG)
     {
-        const auto& request = *reinterpret_cast<const LimitRequest*>(lParam);
-        if (request.SoftKeys)
-            GiveSoftKeys(dialog, request);
-        ShowTree(dialog, request);
+        if (g_bareDialog->SoftKeys)
+            GiveSoftKeys(dialog, *g_bareDialog);
+        FillScreen(dialog);
+        g_bareDialog->Show(dialog);
         return TRUE;
     }
     if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)
     {
-        const HWND tree = GetDlgItem(dialog, kTreeId);
-        ImageList_Destroy(
-            reinterpret_cast<HIMAGELIST>(SendMessageW(tree, TVM_GETIMAGELIST, TVSIL_STATE, 0)));
+        if (g_bareDialog->Close)
+            g_bareDialog->Close(dialog);
         EndDialog(dialog, IDCANCEL);
         return TRUE;
     }
@@ -141,28 +169,20 @@ double TimeToPaint(const std::function<void()>& open, const wchar_t* controlClas
     return opening::Seconds(g_painted - begin).count();
 }
 
-void GiveSoftKeys(HWND dialog, const LimitRequest& request)
+double TimeOfBareDialog(HWND owner, const BareDialog& request, const wchar_t* controlClass)
 {
-    SHINITDLGINFO info = {SHIDIM_FLAGS, dialog, SHIDIF_SIZEDLGFULLSCREEN};
-    SHInitDialog(&info);
-    SHMENUBARINFO bar = {};
-    bar.cbSize = sizeof(bar);
-    bar.hwndParent = dialog;
-    bar.dwFlags = SHCMBF_HMENU | SHCMBF_HIDESIPBUTTON;
-    bar.nToolBarId = request.SoftKeyMenu;
-    bar.hInstRes = request.SoftKeys;
-    SHCreateMenuBar(&bar);
+    static const EmptyTemplate empty;
+    g_bareDialog = &request;
+    return TimeToPaint([&]
+                       { DialogBoxIndirectParamW(nullptr, &empty.head, owner, BareProcedure, 0); },
+                       controlClass);
 }
 
 double TimeOfLimit(HWND owner, const LimitRequest& request)
 {
-    static const EmptyTemplate empty;
-    return TimeToPaint(
-        [&]
-        {
-            DialogBoxIndirectParamW(nullptr, &empty.head, owner, LimitProcedure,
-                                    reinterpret_cast<LPARAM>(&request));
-        });
+    const auto show = [&](HWND dialog) { ShowTree(dialog, request); };
+    return TimeOfBareDialog(owner, {show, request.SoftKeys, request.SoftKeyMenu, FreeBoxes},
+                            WC_TREEVIEWW);
 }
 
 HTREEITEM InsertNode(HWND tree, HTREEITEM parent, const wchar_t* text, LPARAM data)

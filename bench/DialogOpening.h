@@ -16,7 +16,21 @@ namespace opening
 double TimeToPaint(const std::function<void()>& open,
                    const wchar_t* controlClass = L"SysTreeView32");
 
-// The least dialog of that kind.
+// The least dialog that shows something.
+struct BareDialog
+{
+    // Makes its controls.
+    std::function<void(HWND dialog)> Show;
+    // Where the soft keys of `SoftKeyMenu` are taken from; null for a dialog without any.
+    HINSTANCE SoftKeys;
+    UINT SoftKeyMenu;
+    // Frees what the controls leave; may be empty.
+    std::function<void(HWND dialog)> Close = {};
+};
+// TimeToPaint of that dialog, over the whole screen.
+double TimeOfBareDialog(HWND owner, const BareDialog& request, const wchar_t* controlClass);
+
+// A bare dialog with a tree.
 struct LimitRequest
 {
     // Fills the tree below its root node.
@@ -25,8 +39,6 @@ struct LimitRequest
     HINSTANCE SoftKeys;
     UINT SoftKeyMenu;
 };
-// Makes the dialog full-screen with the request's soft keys.
-void GiveSoftKeys(HWND dialog, const LimitRequest& request);
 // TimeToPaint of a dialog that shows that tree, filled without redrawing, and nothing else.
 double TimeOfLimit(HWND owner, const LimitRequest& request);
 

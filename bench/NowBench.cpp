@@ -38,27 +38,10 @@ Rows LabelsOfPlugins()
     return rows;
 }
 
-// A template for a dialog without controls.
-struct EmptyTemplate
-{
-    DLGTEMPLATE head = {WS_POPUP, 0, 0, 0, 0, 0, 0};
-    WORD menu = 0;
-    WORD windowClass = 0;
-    WORD title = 0;
-};
-
-// What the limit dialog shows, and where its soft keys are taken from; null for none.
-struct LimitRequest
-{
-    const Rows& rows;
-    HINSTANCE softKeys;
-};
-
 void ShowList(HWND dialog, const Rows& rows)
 {
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);
-    SetWindowPos(dialog, nullptr, 0, 0, width, height, SWP_NOZORDER);
     constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
                              LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
     const HWND list = CreateWindowExW(0, WC_LISTVIEWW, L"", kStyle, 5, 73, width - 10, height - 105,
@@ -83,34 +66,10 @@ void ShowList(HWND dialog, const Rows& rows)
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
 }
 
-INT_PTR CALLBACK LimitProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+double TimeOfLimit(HWND owner, const Rows& rows, HINSTANCE softKeys)
 {
-    if (message == WM_INITDIALOG)
-    {
-        const auto& request = *reinterpret_cast<const LimitRequest*>(lParam);
-        if (request.softKeys)
-            opening::GiveSoftKeys(dialog, {nullptr, request.softKeys, IDR_DONE_CANCEL});
-        ShowList(dialog, request.rows);
-        return TRUE;
-    }
-    if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)
-    {
-        EndDialog(dialog, IDCANCEL);
-        return TRUE;
-    }
-    return FALSE;
-}
-
-double TimeOfLimit(HWND owner, const LimitRequest& request)
-{
-    static const EmptyTemplate empty;
-    return opening::TimeToPaint(
-        [&]
-        {
-            DialogBoxIndirectParamW(nullptr, &empty.head, owner, LimitProcedure,
-                                    reinterpret_cast<LPARAM>(&request));
-        },
-        WC_LISTVIEWW);
+    const auto show = [&](HWND dialog) { ShowList(dialog, rows); };
+    return opening::TimeOfBareDialog(owner, {show, softKeys, IDR_DONE_CANCEL}, WC_LISTVIEWW);
 }
 
 // All in turn, so that each meets the same conditions.
@@ -133,8 +92,8 @@ Times RunAll(const CModule& module, HWND owner)
         const double whole =
             opening::TimeToPaint([&] { module.CustomizeNow(owner, 0, 0, 0); }, WC_LISTVIEWW);
         const double reading = readingTime.Seconds();
-        const double limit = TimeOfLimit(owner, {rows, nullptr});
-        const double withKeys = TimeOfLimit(owner, {rows, module.Handle()});
+        const double limit = TimeOfLimit(owner, rows, nullptr);
+        const double withKeys = TimeOfLimit(owner, rows, module.Handle());
         // The first dialogs of a process only warm up.
         if (round < 0)
             continue;

@@ -116,6 +116,45 @@ TEST_F(Resources, Template9IsCustomizeMenuWithItsTree)
                              TVS_CHECKBOXES}});
 }
 
+TEST_F(Resources, Template202IsEditItemOfALink)
+{
+    const HWND dialog = Create(202);
+    EXPECT_EQ(L"Edit Item", TextOf(dialog));
+    // The name comes first: it gets the focus.
+    ExpectControls(dialog, {{206, L"Edit", L"", WS_VISIBLE | ES_AUTOHSCROLL | WS_TABSTOP,
+                             ES_MULTILINE | ES_READONLY | ES_PASSWORD | ES_NUMBER},
+                            {216, L"Static", L"Name:", WS_VISIBLE | WS_GROUP, 0},
+                            {207, L"Edit", L"",
+                             WS_VISIBLE | ES_AUTOHSCROLL | ES_READONLY | WS_TABSTOP, ES_MULTILINE},
+                            {217, L"Static", L"Path:", WS_VISIBLE | WS_GROUP, 0},
+                            {218, L"Static", L"Icon:", WS_VISIBLE | WS_GROUP, 0},
+                            {208, L"Static", L"", WS_VISIBLE, WS_TABSTOP | WS_BORDER},
+                            {209, L"Button", L"Change...", WS_VISIBLE | WS_TABSTOP, 0x0F}});
+}
+
+TEST_F(Resources, Template204IsEditItemOfAMenu)
+{
+    const HWND dialog = Create(204);
+    EXPECT_EQ(L"Edit Item", TextOf(dialog));
+    ExpectControls(dialog, {{206, L"Edit", L"", WS_VISIBLE | ES_AUTOHSCROLL | WS_TABSTOP,
+                             ES_MULTILINE | ES_READONLY | ES_PASSWORD | ES_NUMBER},
+                            {216, L"Static", L"Name:", WS_VISIBLE | WS_GROUP, 0},
+                            {218, L"Static", L"Icon:", WS_VISIBLE | WS_GROUP, 0},
+                            {208, L"Static", L"", WS_VISIBLE, WS_TABSTOP | WS_BORDER},
+                            {209, L"Button", L"Change...", WS_VISIBLE | WS_TABSTOP, 0x0F}});
+}
+
+TEST_F(Resources, Template206IsChooseIcon)
+{
+    const HWND dialog = Create(206);
+    EXPECT_EQ(L"Choose Icon", TextOf(dialog));
+    // The dialog owns the list's images.
+    ExpectControls(dialog, {{201, L"SysListView32", L"",
+                             WS_VISIBLE | WS_TABSTOP | LVS_SINGLESEL | LVS_SHOWSELALWAYS |
+                                 LVS_SHAREIMAGELISTS | LVS_AUTOARRANGE,
+                             LVS_TYPEMASK | LVS_OWNERDATA | LVS_EDITLABELS}});
+}
+
 TEST_F(Resources, Template207IsManagePinnedWithItsTree)
 {
     const HWND dialog = Create(207);
@@ -138,6 +177,22 @@ TEST_F(Resources, Template209IsMenuOptions)
           0x0C}});
 }
 
+TEST_F(Resources, Template203IsSelectFileWithItsTree)
+{
+    const HWND dialog = Create(203);
+    EXPECT_EQ(L"Select File", TextOf(dialog));
+    ExpectControls(dialog, {{207, L"SysTreeView32", L"", WS_TABSTOP | WS_VISIBLE | TVS_HASBUTTONS,
+                             TVS_CHECKBOXES}});
+}
+
+TEST_F(Resources, Template208IsSelectLinkWithItsTree)
+{
+    const HWND dialog = Create(208);
+    EXPECT_EQ(L"Select Link", TextOf(dialog));
+    ExpectControls(dialog, {{209, L"SysTreeView32", L"", WS_TABSTOP | WS_VISIBLE | TVS_HASBUTTONS,
+                             TVS_CHECKBOXES}});
+}
+
 TEST_F(Resources, Template201IsSelectCity)
 {
     RegisterExtraControls();
@@ -155,7 +210,7 @@ TEST_F(Resources, Template201IsSelectCity)
 TEST_F(Resources, TemplatesAreHiddenPopups)
 {
     RegisterExtraControls();
-    for (const UINT id : {9u, 201u, 209u})
+    for (const UINT id : {9u, 201u, 202u, 204u, 206u, 209u})
     {
         const HWND dialog = Create(id);
         const auto style = static_cast<DWORD>(GetWindowLongW(dialog, GWL_STYLE));
@@ -194,6 +249,7 @@ TEST_F(Resources, Menu203IsDoneAndTheMenuEditorsCommands)
 TEST_F(Resources, StringsHaveTheirNumbers)
 {
     EXPECT_EQ(L"Tav Menu", String(101));
+    EXPECT_EQ(L"Programs", String(102));
     EXPECT_EQ(L"Menu Options ('%s')", String(103));
     EXPECT_EQ(L"Only %d items may be pinned", String(109));
     EXPECT_EQ(L"Tav Lumenar", String(110));

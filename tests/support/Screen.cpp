@@ -1,5 +1,6 @@
 #include "tests/support/Screen.h"
 
+#include "tests/support/DialogRun.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/SoftKeys.h"
 #include "tests/support/Wait.h"
@@ -43,4 +44,45 @@ void ExpectTitleBand()
     EXPECT_TRUE(TurnsInto(GetSysColor(COLOR_WINDOW), right, Px(23) - 1));
     EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), 3, Px(23)));
     EXPECT_TRUE(TurnsInto(RGB(0, 0, 0), right, Px(24) - 1));
+}
+
+std::vector<HWND> ControlsOf(HWND dialog)
+{
+    std::vector<HWND> controls;
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        controls.push_back(child);
+    return controls;
+}
+
+int TextWidthOf(HWND control)
+{
+    const std::wstring text = TextOf(control);
+    const HDC dc = GetDC(control);
+    const HGDIOBJ old =
+        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    SIZE size = {};
+    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return static_cast<int>(size.cx);
+}
+
+void ExpectControlsApart(HWND dialog)
+{
+    const RECT own = RectOf(dialog);
+    const std::vector<HWND> controls = ControlsOf(dialog);
+    for (size_t i = 0; i < controls.size(); ++i)
+    {
+        const RECT rect = RectOf(controls[i]);
+        EXPECT_GE(rect.left, own.left) << i;
+        EXPECT_GE(rect.top, own.top + Px(24)) << i;
+        EXPECT_LE(rect.right, own.right) << i;
+        EXPECT_LE(rect.bottom, own.bottom) << i;
+        for (size_t j = i + 1; j < controls.size(); ++j)
+        {
+            const RECT other = RectOf(controls[j]);
+            RECT common = {};
+            EXPECT_FALSE(IntersectRect(&common, &rect, &other)) << i << " and " << j;
+        }
+    }
 }

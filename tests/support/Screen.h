@@ -4,6 +4,8 @@
 
 #include "platform/Win.h"
 
+#include <vector>
+
 // A window's rectangle on the screen.
 RECT RectOf(HWND window);
 
@@ -15,3 +17,12 @@ void ExpectFullScreen(HWND dialog);
 
 // Checks that the screen shows the title band of a dialog that isn't scrolled.
 void ExpectTitleBand();
+
+// The controls of a dialog, in z-order.
+std::vector<HWND> ControlsOf(HWND dialog);
+
+// The width that a control's text takes in the control's font.
+int TextWidthOf(HWND control);
+
+// Checks that the controls stand within the dialog, below its title band, none over another.
+void ExpectControlsApart(HWND dialog);

@@ -9,13 +9,7 @@ namespace
 class CityKeyboard : public CityFixture
 {
 protected:
-    HWND Focus() const
-    {
-        GUITHREADINFO info = {};
-        info.cbSize = sizeof(info);
-        GetGUIThreadInfo(run->ThreadId(), &info);
-        return info.hwndFocus;
-    }
+    HWND Focus() const { return run->Focus(); }
     void TabTo(HWND control) const
     {
         PressKey(VK_TAB);

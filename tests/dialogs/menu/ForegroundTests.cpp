@@ -40,14 +40,6 @@ protected:
         EXPECT_FALSE(run->HasEnded());
         EXPECT_FALSE(IsChangeWritten());
     }
-
-    HWND FocusOfDialogThread() const
-    {
-        GUITHREADINFO info = {};
-        info.cbSize = sizeof(info);
-        GetGUIThreadInfo(run->ThreadId(), &info);
-        return info.hwndFocus;
-    }
 };
 
 } // namespace
@@ -157,10 +149,10 @@ TEST_F(Foreground, TheTreeHasTheFocusAgainAfterASubDialog)
 {
     Open();
     SetForegroundWindow(dialog);
-    EXPECT_EQ(tree.Window(), FocusOfDialogThread());
+    EXPECT_EQ(tree.Window(), run->Focus());
     const HWND options = OpenOptions(L"Programs", L"Menu Options ('Programs')");
-    EXPECT_NE(tree.Window(), FocusOfDialogThread());
+    EXPECT_NE(tree.Window(), run->Focus());
     PostCommand(options, IDCANCEL);
     run->WaitForDialog(L"Customize Menu");
-    EXPECT_TRUE(WaitUntil([&] { return FocusOfDialogThread() == tree.Window(); }));
+    EXPECT_TRUE(WaitUntil([&] { return run->Focus() == tree.Window(); }));
 }

@@ -1,6 +1,7 @@
 // Messages that no honest sender sends: the editor stays as it is.
 #include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/FaultCounter.h"
+#include "tests/support/PageEnd.h"
 
 #include <climits>
 
@@ -8,33 +9,6 @@ namespace
 {
 
 constexpr UINT kStylusDown = static_cast<UINT>(-50);
-
-// The end of a page behind which no memory can be read.
-class CPageEnd
-{
-public:
-    CPageEnd()
-        : m_pages(static_cast<char*>(
-              VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE)))
-    {
-        DWORD old = 0;
-        VirtualProtect(m_pages + kPage, kPage, PAGE_NOACCESS, &old);
-    }
-    ~CPageEnd() { VirtualFree(m_pages, 0, MEM_RELEASE); }
-    CPageEnd(const CPageEnd&) = delete;
-    CPageEnd& operator=(const CPageEnd&) = delete;
-
-    // The last bytes that can be read.
-    template <class T>
-    T* Last() const
-    {
-        return reinterpret_cast<T*>(m_pages + kPage - sizeof(T));
-    }
-
-private:
-    static constexpr size_t kPage = 4096;
-    char* m_pages;
-};
 
 class Forged : public EditorFixture
 {

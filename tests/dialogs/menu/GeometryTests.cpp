@@ -2,7 +2,6 @@
 #include "tests/dialogs/menu/support/EditorFixture.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/Screen.h"
-#include "tests/support/Wait.h"
 
 namespace
 {
@@ -10,27 +9,6 @@ namespace
 class DialogGeometry : public EditorFixture
 {
 protected:
-    static std::vector<HWND> ControlsOf(HWND window)
-    {
-        std::vector<HWND> controls;
-        for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-            controls.push_back(child);
-        return controls;
-    }
-    // The width that a control's text takes in its font.
-    static int TextWidthOf(HWND control)
-    {
-        const std::wstring text = TextOf(control);
-        const HDC dc = GetDC(control);
-        const HGDIOBJ old =
-            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-        SIZE size = {};
-        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-        SelectObject(dc, old);
-        ReleaseDC(control, dc);
-        return size.cx;
-    }
-
     // Checks that a dialog has its title band and ends where its soft keys begin.
     static void ExpectFullScreenWithTitle(HWND window)
     {
@@ -70,23 +48,8 @@ TEST_F(DialogGeometry, TheControlsOfMenuOptionsStandInTheirPlaceWithoutOverlap)
 {
     Open();
     const HWND options = OpenOptions(L"Programs", L"Menu Options ('Programs')");
-    const RECT own = RectOf(options);
-    const std::vector<HWND> controls = ControlsOf(options);
-    ASSERT_EQ(6u, controls.size());
-    for (size_t i = 0; i < controls.size(); ++i)
-    {
-        const RECT rect = RectOf(controls[i]);
-        EXPECT_GE(rect.left, own.left);
-        EXPECT_GE(rect.top, own.top + Px(24));
-        EXPECT_LE(rect.right, own.right);
-        EXPECT_LE(rect.bottom, own.bottom);
-        for (size_t j = i + 1; j < controls.size(); ++j)
-        {
-            const RECT other = RectOf(controls[j]);
-            RECT common = {};
-            EXPECT_FALSE(IntersectRect(&common, &rect, &other)) << i << " and " << j;
-        }
-    }
+    EXPECT_EQ(6u, ControlsOf(options).size());
+    ExpectControlsApart(options);
 }
 
 TEST_F(DialogGeometry, TheTextsOfMenuOptionsFitIntoTheirControls)

@@ -105,14 +105,3 @@ TEST_F(Removing, DoneAfterwardsWritesTheOtherBoxes)
     Done();
     EXPECT_EQ(1u, registry.CustomDword(L"Messaging", L"Inactive"));
 }
-
-TEST_F(Removing, EditingAndAddingDoNothingYet)
-{
-    Open();
-    Select(L"My Menu");
-    const std::wstring before = registry.CustomDump();
-    for (const UINT command : {CommandEdit, CommandAddMenu, CommandAddLink, CommandAddFile})
-        SendCommand(dialog, command);
-    EXPECT_EQ(before, registry.CustomDump());
-    EXPECT_EQ(dialog, run->InnermostDialog());
-}
