@@ -1,15 +1,12 @@
 // Opens Customize Menu through the export over the sample menu, and works it.
 #pragma once
 
-#include "tests/support/DialogRun.h"
+#include "tests/dialogs/menu/support/EditorRun.h"
 #include "tests/support/MenuSandbox.h"
-#include "tests/support/Module.h"
 #include "tests/support/SoftKeys.h"
-#include "tests/support/TreeDriver.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -36,18 +33,11 @@ enum NodeBox : UINT
 };
 
 // The sample menu may be changed before Open.
-class EditorFixture : public testing::Test
+class EditorFixture : public testing::Test, protected CEditorRun
 {
 protected:
     ~EditorFixture() override;
 
-    // Opens the dialog and waits until it can be worked.
-    void Open();
-    // Selects the node at a path of labels.
-    HTREEITEM Select(const std::wstring& path);
-    // Ends the dialog and checks the export's result.
-    void Done();
-    void Cancel();
     // Checks that the export threw the given code.
     void ExpectThrown(HRESULT code);
 
@@ -60,10 +50,6 @@ protected:
     HWND OpenOptions(const std::wstring& path, const std::wstring& title);
 
     CMenuSandbox registry;
-    std::unique_ptr<CModule> module;
-    std::unique_ptr<CDialogRun> run;
-    HWND dialog = nullptr;
-    CTreeDriver tree{nullptr};
 };
 
 // The pop-up of the dialog's right soft key.
