@@ -6,7 +6,6 @@
 #include "platform/os/Text.h"
 #include "ui/FileTreeEntries.h"
 #include "ui/RedrawPause.h"
-#include "ui/TreeWalk.h"
 #include "ui/WaitCursor.h"
 
 #include <algorithm>
@@ -57,14 +56,14 @@ std::wstring CTavFileTreeCtrl::SelectedPath() const
     return FullPath(GetSelectedItem());
 }
 
-// A forged notification may name any node: only one of the tree's is touched.
+// A forged notification may name any node: only one of the tree's own folders is touched.
 LRESULT CTavFileTreeCtrl::OnItemExpanding(int /*id*/, NMHDR* header, BOOL& /*handled*/)
 {
     if (IsBadReadPtr(header, sizeof(NMTREEVIEWW)))
         return 0;
     const auto* const notification = reinterpret_cast<const NMTREEVIEWW*>(header);
     const HTREEITEM node = notification->itemNew.hItem;
-    if (notification->action == TVE_EXPAND && !m_expanding && node && HasNode(*this, node))
+    if (notification->action == TVE_EXPAND && !m_expanding && m_folders.count(node) != 0)
         FillFolder(node);
     return 0;
 }
@@ -78,6 +77,7 @@ LRESULT CTavFileTreeCtrl::OnStylusDown(int /*id*/, NMHDR* /*header*/, BOOL& /*ha
 void CTavFileTreeCtrl::BuildRoot()
 {
     DeleteAllItems();
+    m_folders.clear();
     m_baseFolder.clear();
     std::wstring entry(1, kFolderType);
     if (StartPath.empty())
@@ -102,8 +102,9 @@ HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& fo
     TVINSERTSTRUCTW insert = {};
     insert.hParent = parent;
     insert.hInsertAfter = TVI_LAST;
-    insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM;
     insert.item.pszText = name.data();
+    insert.item.lParam = kUnfilled;
     insert.item.iImage = ImageOf(type, filetree::JoinPath(folder, name));
     insert.item.iSelectedImage = insert.item.iImage;
     const HTREEITEM node = InsertItem(insert);
@@ -134,7 +135,7 @@ void CTavFileTreeCtrl::InsertPlaceholder(HTREEITEM folder)
     insert.item.pszText = noText;
     if (!InsertItem(insert))
         ThrowOutOfMemory();
-    SetItemData(folder, kUnfilled);
+    m_folders.insert(folder);
 }
 
 void CTavFileTreeCtrl::FillFolder(HTREEITEM node)

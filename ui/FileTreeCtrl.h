@@ -6,6 +6,7 @@
 #include <aygshell.h>
 
 #include <string>
+#include <unordered_set>
 
 // The control's parent sends its notifications back to it (REFLECT_NOTIFICATIONS). Nodes are named
 // by file and folder names; a folder's data are 0 until it is filled, and it has a child without a
@@ -50,6 +51,9 @@ private:
 
     // The folder that contains the root node's entry.
     std::wstring m_baseFolder;
+    // The folders among the nodes. Asking the tree for each of its nodes takes the longer the more
+    // there are.
+    std::unordered_set<HTREEITEM> m_folders;
     // The control itself expands a node, which it has filled.
     BOOL m_expanding = FALSE;
 };

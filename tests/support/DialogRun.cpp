@@ -132,6 +132,14 @@ HWND CDialogRun::InnermostDialog() const
     return OpenDialogOf(m_threadId);
 }
 
+HWND CDialogRun::Focus() const
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(m_threadId, &info);
+    return info.hwndFocus;
+}
+
 HWND CDialogRun::WaitForDialog(const std::wstring& title)
 {
     HWND dialog = nullptr;

@@ -24,6 +24,8 @@ public:
     HWND WaitForDialog(const std::wstring& title);
     // The innermost visible dialog now; null when there is none.
     HWND InnermostDialog() const;
+    // The window of the run's thread that has the focus; null when none has.
+    HWND Focus() const;
     // Waits until a pop-up menu is open and returns its window; null after 10 seconds.
     HWND WaitForPopup();
     // The pop-up menu that is open now; null when there is none.

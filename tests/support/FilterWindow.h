@@ -24,6 +24,7 @@ public:
 
     // What was asked, in order.
     std::vector<ImageProcessRequest> Questions() const { return m_process.Requests(); }
+    void ForgetQuestions() { m_process.ForgetRequests(); }
     // The last components of the paths that were asked about, sorted.
     std::vector<std::wstring> Names() const;
 

@@ -65,6 +65,12 @@ std::vector<ImageProcessRequest> CImageProcess::Requests() const
     return m_requests;
 }
 
+void CImageProcess::ForgetRequests()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_requests = std::vector<ImageProcessRequest>();
+}
+
 LRESULT CImageProcess::Take(HWND window, WPARAM wParam, const COPYDATASTRUCT& data)
 {
     ImageProcessRequest request = {data.dwData, wParam, {}};

@@ -51,6 +51,8 @@ public:
     void Behave(ImageProcessManner manner);
     // All requests so far.
     std::vector<ImageProcessRequest> Requests() const;
+    // Gives their memory back: for tests that count it.
+    void ForgetRequests();
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -10,6 +10,8 @@ namespace
 {
 
 constexpr const wchar_t* kSandboxes = L"Software\\TavLumenarTests";
+// Values of this size are dumped by one call.
+constexpr DWORD kUsualSize = 1024;
 
 const wchar_t* Relative(const wchar_t* path)
 {
@@ -56,29 +58,61 @@ std::string ReadBytes(HKEY key, const wchar_t* name, DWORD* type, bool* found)
     return data;
 }
 
-void DumpKey(HKEY key, const std::wstring& path, std::wstring& lines)
+// A value's type and bytes in words.
+using ValueFormat = std::wstring (*)(DWORD type, const std::string& data);
+
+std::wstring TextIn(const std::string& data)
+{
+    return std::wstring(reinterpret_cast<const wchar_t*>(data.data()), data.size() / 2).c_str();
+}
+
+std::wstring HexOf(const std::string& data)
+{
+    std::wstring digits;
+    for (const char byte : data)
+    {
+        wchar_t hex[4];
+        swprintf(hex, 4, L"%02X", static_cast<unsigned char>(byte));
+        digits += hex;
+    }
+    return digits;
+}
+
+std::wstring PlainFormat(DWORD type, const std::string& data)
+{
+    return type == REG_SZ ? TextIn(data) : HexOf(data);
+}
+
+std::wstring TypedFormat(DWORD type, const std::string& data)
+{
+    DWORD number = 0;
+    if (type == REG_SZ)
+        return L'"' + TextIn(data) + L'"';
+    if (type != REG_DWORD || data.size() != sizeof(number))
+        return L"type " + std::to_wstring(type) + L": " + HexOf(data);
+    memcpy(&number, data.data(), sizeof(number));
+    return std::to_wstring(number);
+}
+
+void DumpKey(HKEY key, const std::wstring& path, ValueFormat format, std::wstring& lines)
 {
     wchar_t name[1024];
     for (DWORD i = 0;; ++i)
     {
         DWORD length = 1024;
-        if (RegEnumValueW(key, i, name, &length, nullptr, nullptr, nullptr, nullptr))
-            break;
         DWORD type = 0;
+        std::string data(kUsualSize, '\0');
+        DWORD size = kUsualSize;
+        const LONG error = RegEnumValueW(key, i, name, &length, nullptr, &type,
+                                         reinterpret_cast<BYTE*>(data.data()), &size);
+        if (error != ERROR_SUCCESS && error != ERROR_MORE_DATA)
+            break;
         bool found = false;
-        const std::string data = ReadBytes(key, name, &type, &found);
-        lines += path + L"|" + name + L"=";
-        if (type == REG_SZ)
-            lines += std::wstring(reinterpret_cast<const wchar_t*>(data.data()), data.size() / 2)
-                         .c_str();
+        if (error == ERROR_SUCCESS)
+            data.resize(size);
         else
-            for (const char byte : data)
-            {
-                wchar_t hex[4];
-                swprintf(hex, 4, L"%02X", static_cast<unsigned char>(byte));
-                lines += hex;
-            }
-        lines += L"\n";
+            data = ReadBytes(key, name, &type, &found);
+        lines += path + L"|" + name + L"=" + format(type, data) + L"\n";
     }
     for (DWORD i = 0;; ++i)
     {
@@ -87,8 +121,17 @@ void DumpKey(HKEY key, const std::wstring& path, std::wstring& lines)
             break;
         lines += path + L"\\" + name + L"\n";
         COpenKey child(key, name);
-        DumpKey(child.get(), path + L"\\" + name, lines);
+        DumpKey(child.get(), path + L"\\" + name, format, lines);
     }
+}
+
+std::wstring DumpBelow(HKEY root, const wchar_t* path, ValueFormat format)
+{
+    const COpenKey key(root, path);
+    std::wstring lines;
+    if (key.get())
+        DumpKey(key.get(), L"", format, lines);
+    return lines;
 }
 
 std::set<std::wstring> LinesOf(const std::wstring& dump)
@@ -197,11 +240,12 @@ std::string CRegistrySandbox::Raw(const wchar_t* path, const wchar_t* name, DWOR
 
 std::wstring CRegistrySandbox::Dump(const wchar_t* path) const
 {
-    const COpenKey key(m_key, path);
-    std::wstring lines;
-    if (key.get())
-        DumpKey(key.get(), L"", lines);
-    return lines;
+    return DumpBelow(m_key, path, PlainFormat);
+}
+
+std::wstring CRegistrySandbox::TypedDump(const wchar_t* path) const
+{
+    return DumpBelow(m_key, path, TypedFormat);
 }
 
 std::vector<std::wstring> DumpDifference(const std::wstring& before, const std::wstring& after)

@@ -33,6 +33,9 @@ public:
     std::string Raw(const wchar_t* path, const wchar_t* name, DWORD* type = nullptr) const;
     // Everything below `path` as sorted lines "key|value=data": two snapshots compare whole states.
     std::wstring Dump(const wchar_t* path) const;
+    // The same with the values' types: texts in quotation marks, numbers as decimals, everything
+    // else as "type T: bytes".
+    std::wstring TypedDump(const wchar_t* path) const;
 
     // The key that stands in for the root, below HKEY_CURRENT_USER: another process of the test
     // can map it too.

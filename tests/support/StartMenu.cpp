@@ -1,5 +1,7 @@
 #include "tests/support/StartMenu.h"
 
+#include "tests/support/FolderTree.h"
+
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -20,26 +22,6 @@ std::wstring UniqueFolder()
            std::to_wstring(++counter);
 }
 
-// Also deeper than the standard library can go.
-void RemoveTree(const std::wstring& folder)
-{
-    WIN32_FIND_DATAW found = {};
-    const HANDLE find = FindFirstFileW((folder + L"\\*").c_str(), &found);
-    for (BOOL more = find != INVALID_HANDLE_VALUE; more; more = FindNextFileW(find, &found))
-    {
-        const std::wstring name = found.cFileName;
-        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
-        {
-            if (name != L"." && name != L"..")
-                RemoveTree(folder + L"\\" + name);
-        }
-        else
-            DeleteFileW((folder + L"\\" + name).c_str());
-    }
-    FindClose(find);
-    RemoveDirectoryW(folder.c_str());
-}
-
 } // namespace
 
 CStartMenu::CStartMenu() : m_user(HKEY_CURRENT_USER), m_path(UniqueFolder())
@@ -51,19 +33,13 @@ CStartMenu::CStartMenu() : m_user(HKEY_CURRENT_USER), m_path(UniqueFolder())
 
 CStartMenu::~CStartMenu()
 {
-    RemoveTree(m_path);
+    RemoveFolderTree(m_path);
     EXPECT_EQ(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(m_path.c_str()));
 }
 
 std::wstring CStartMenu::AddFile(const std::wstring& below) const
 {
-    const std::filesystem::path path = PathOf(below);
-    std::filesystem::create_directories(path.parent_path());
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    EXPECT_NE(INVALID_HANDLE_VALUE, file) << GetLastError();
-    CloseHandle(file);
-    return path;
+    return CreateEmptyFile(PathOf(below));
 }
 
 std::wstring CStartMenu::AddFolder(const std::wstring& below) const
@@ -74,7 +50,7 @@ std::wstring CStartMenu::AddFolder(const std::wstring& below) const
 
 void CStartMenu::Remove(const std::wstring& below) const
 {
-    RemoveTree(PathOf(below));
+    RemoveFolderTree(PathOf(below));
 }
 
 void CStartMenu::SetPrograms(const std::wstring& path)

@@ -20,6 +20,10 @@ public:
     // The path of something in it: L"Programs\\Games\\Chess.lnk".
     std::wstring PathOf(const std::wstring& below) const { return m_path + L"\\" + below; }
 
+    // The key that stands in for HKEY_CURRENT_USER, for a child process that joins it: after it has
+    // joined HKEY_LOCAL_MACHINE's, which lies below the real user's.
+    const std::wstring& UserBackingPath() const { return m_user.BackingPath(); }
+
     // Create an empty file or a folder with all folders above it; return the path.
     std::wstring AddFile(const std::wstring& below) const;
     std::wstring AddFolder(const std::wstring& below) const;

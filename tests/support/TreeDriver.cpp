@@ -92,6 +92,25 @@ void CTreeDriver::Expand(HTREEITEM node) const
     SendMessageW(m_tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(node));
 }
 
+void CTreeDriver::Collapse(HTREEITEM node) const
+{
+    SendMessageW(m_tree, TVM_EXPAND, TVE_COLLAPSE, reinterpret_cast<LPARAM>(node));
+}
+
+std::pair<int, int> CTreeDriver::ImagesOf(HTREEITEM node) const
+{
+    TVITEMW item = {};
+    item.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    item.hItem = node;
+    SendMessageW(m_tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    return {item.iImage, item.iSelectedImage};
+}
+
+HIMAGELIST CTreeDriver::Images() const
+{
+    return reinterpret_cast<HIMAGELIST>(SendMessageW(m_tree, TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+}
+
 std::vector<std::wstring> CTreeDriver::ChildrenOf(const std::wstring& path) const
 {
     std::vector<std::wstring> labels;

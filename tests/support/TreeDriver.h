@@ -4,6 +4,7 @@
 #include "platform/Win.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 // A tree view in this process. Nodes are named by their path of labels below the root node, such as
@@ -26,6 +27,11 @@ public:
     void Select(HTREEITEM node) const;
     HTREEITEM Selected() const;
     void Expand(HTREEITEM node) const;
+    void Collapse(HTREEITEM node) const;
+    // The numbers of a node's pictures: as it is and when it is selected.
+    std::pair<int, int> ImagesOf(HTREEITEM node) const;
+    // The tree's list of the pictures.
+    HIMAGELIST Images() const;
     HTREEITEM Next(HTREEITEM node, UINT code) const;
     // The labels of a node's children, in order.
     std::vector<std::wstring> ChildrenOf(const std::wstring& path) const;
