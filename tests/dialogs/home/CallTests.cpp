@@ -3,6 +3,7 @@
 #include "tests/dialogs/home/HomeFixture.h"
 #include "tests/support/ImportPatch.h"
 #include "tests/support/LeakCounter.h"
+#include "tests/support/ShellWatch.h"
 #include "tests/support/TranslationFixture.h"
 
 namespace
@@ -63,43 +64,71 @@ TEST_F(HomeCall, TitleTextsAndSoftKeysAreTranslated)
     EXPECT_NE(nullptr, tree.Find(L"Werkzeuge"));
 }
 
+// The shell.
+
 namespace
 {
 
-int g_calls;
-int g_failing;
-void* g_original;
-
-// Makes one call of a function of the shell fail; the others go through.
-BOOL WINAPI FailOneCall(void* info)
+class HomeShell : public HomeFixture
 {
-    if (++g_calls == g_failing)
+protected:
+    HomeShell()
     {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
+        module = std::make_unique<CModule>();
+        shell = std::make_unique<CShellWatch>(module->Handle());
     }
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
-}
-
-} // namespace
-
-TEST_F(HomeCall, AShellThatRefusesTheDialogOrItsBarLetsTheExportThrow)
-{
-    module = std::make_unique<CModule>();
-    for (const char* const function : {"SHInitDialog", "SHCreateMenuBar"})
+    ~HomeShell() override
     {
-        g_calls = 0;
-        // The base has asked for the same before, and must not fail for it.
-        g_failing = 2;
-        g_original = *FindImport(module->Handle(), "aygshell.dll", function);
-        const CImportPatch patch(module->Handle(), "aygshell.dll", function, FailOneCall);
+        run.reset();
+        shell.reset();
+    }
+
+    // Calls the export and checks that it throws this and leaves nothing behind.
+    void ExpectThrown(HRESULT code)
+    {
         run = std::make_unique<CDialogRun>([this](HWND owner)
                                            { return module->CustomizeHome(owner, 4, 0, 0); });
         ASSERT_TRUE(run->WaitForEnd());
         EXPECT_FALSE(run->Result());
-        EXPECT_EQ(static_cast<HRESULT>(0x80070005), run->ThrownCode()) << function;
+        EXPECT_EQ(code, run->ThrownCode());
         EXPECT_TRUE(run->OwnerEnabledAtEnd());
+        EXPECT_EQ(nullptr, run->InnermostDialog());
     }
+
+    std::unique_ptr<CShellWatch> shell;
+};
+
+constexpr HRESULT kAccessDenied = static_cast<HRESULT>(0x80070005);
+
+} // namespace
+
+TEST_F(HomeShell, IsAskedForAFullScreenTwiceAndForABarOfMenu207WithoutAnInputPanelButton)
+{
+    Open();
+    EXPECT_EQ((std::vector<DWORD>{13, 12}), shell->FullScreens());
+    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), shell->Bars());
+}
+
+TEST_F(HomeShell, MayRefuseWhatTheBaseAsksFor)
+{
+    shell->FailFullScreen(1);
+    shell->FailBar(1);
+    Open();
+    EXPECT_EQ(2u, shell->FullScreens().size());
+    EXPECT_EQ(2u, shell->Bars().size());
+    Done();
+}
+
+TEST_F(HomeShell, ThatRefusesTheDialogsOwnFullScreenLetsTheExportThrow)
+{
+    shell->FailFullScreen(2);
+    ExpectThrown(kAccessDenied);
+}
+
+TEST_F(HomeShell, ThatRefusesTheDialogsOwnBarLetsTheExportThrow)
+{
+    shell->FailBar(2);
+    ExpectThrown(kAccessDenied);
 }
 
 // Leaks.

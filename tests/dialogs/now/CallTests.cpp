@@ -1,60 +1,12 @@
 // Calling the export: results, arguments, owners, and system calls that fail while it opens.
 #include "tests/dialogs/now/NowFixture.h"
 #include "tests/support/ImportPatch.h"
+#include "tests/support/ShellWatch.h"
 
 namespace
 {
 
 constexpr HRESULT kAccessDenied = static_cast<HRESULT>(0x80070005);
-
-// Calls of a patched function of the shell, and which of them fails, from 1.
-int g_calls;
-int g_failing;
-DWORD g_error;
-void* g_original;
-
-BOOL WINAPI FailOneCall(void* info)
-{
-    ++g_calls;
-    if (g_calls == g_failing)
-    {
-        SetLastError(g_error);
-        return FALSE;
-    }
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
-}
-
-// What the shell was asked for, call by call.
-std::vector<DWORD> g_flags;
-UINT g_menu;
-
-struct DialogInfo
-{
-    DWORD mask;
-    HWND dialog;
-    DWORD flags;
-};
-
-struct BarInfo
-{
-    DWORD size;
-    HWND parent;
-    DWORD flags;
-    UINT menu;
-};
-
-BOOL WINAPI WatchInitDialog(void* info)
-{
-    g_flags.push_back(static_cast<const DialogInfo*>(info)->flags);
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
-}
-
-BOOL WINAPI WatchCreateMenuBar(void* info)
-{
-    g_flags.push_back(static_cast<const BarInfo*>(info)->flags);
-    g_menu = static_cast<const BarInfo*>(info)->menu;
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
-}
 
 HRSRC WINAPI FindNothing(HMODULE, const wchar_t*, const wchar_t*)
 {
@@ -66,28 +18,15 @@ class NowCall : public NowFixture
 protected:
     NowCall()
     {
-        g_calls = 0;
-        g_error = ERROR_ACCESS_DENIED;
-        g_flags.clear();
         module = std::make_unique<CModule>();
+        shell = std::make_unique<CShellWatch>(module->Handle());
     }
     ~NowCall() override
     {
         run.reset();
-        m_patch.reset();
+        shell.reset();
     }
 
-    void Patch(const char* function, BOOL(WINAPI* replacement)(void*))
-    {
-        g_original = *FindImport(module->Handle(), "aygshell.dll", function);
-        m_patch =
-            std::make_unique<CImportPatch>(module->Handle(), "aygshell.dll", function, replacement);
-    }
-    void FailCall(const char* function, int call)
-    {
-        g_failing = call;
-        Patch(function, FailOneCall);
-    }
     // Opens the dialog with a call of the test's own.
     void OpenBy(std::function<BOOL(HWND)> call)
     {
@@ -96,7 +35,7 @@ protected:
         ASSERT_NE(nullptr, dialog);
     }
 
-    std::unique_ptr<CImportPatch> m_patch;
+    std::unique_ptr<CShellWatch> shell;
 };
 
 } // namespace
@@ -146,62 +85,65 @@ TEST_F(NowCall, PaintingTheDialogEnablesTheOwnerAlready)
 
 TEST_F(NowCall, TheShellIsAskedForAFullScreenTwice)
 {
-    Patch("SHInitDialog", WatchInitDialog);
     Open();
-    EXPECT_EQ((std::vector<DWORD>{13, 12}), g_flags);
+    EXPECT_EQ((std::vector<DWORD>{13, 12}), shell->FullScreens());
 }
 
 TEST_F(NowCall, TheBarIsMadeOfMenu207WithoutAnInputPanelButton)
 {
-    Patch("SHCreateMenuBar", WatchCreateMenuBar);
     Open();
-    EXPECT_EQ((std::vector<DWORD>{1, 0x14}), g_flags);
-    EXPECT_EQ(207u, g_menu);
+    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), shell->Bars());
 }
 
 TEST_F(NowCall, TheFirstFullScreenRequestMayFail)
 {
-    FailCall("SHInitDialog", 1);
+    shell->FailFullScreen(1);
     Open();
-    EXPECT_EQ(2, g_calls);
+    EXPECT_EQ(2u, shell->FullScreens().size());
     Done();
 }
 
 // Unlike the other dialogs' own requests, whatever the shell's error is.
 TEST_F(NowCall, TheSecondFullScreenRequestFailsAsABrokenPrecondition)
 {
-    FailCall("SHInitDialog", 2);
+    shell->FailFullScreen(2);
     Call();
     ExpectThrown(kBroken);
 }
 
 TEST_F(NowCall, TheEmptyBarMayFail)
 {
-    FailCall("SHCreateMenuBar", 1);
+    shell->FailBar(1);
     Open();
-    EXPECT_EQ(2, g_calls);
+    EXPECT_EQ(2u, shell->Bars().size());
     Done();
 }
 
 TEST_F(NowCall, ItsOwnBarFailsWithTheSystemsError)
 {
-    FailCall("SHCreateMenuBar", 2);
+    shell->FailBar(2);
     Call();
     ExpectThrown(kAccessDenied);
 }
 
 TEST_F(NowCall, ANegativeErrorOfTheBarIsCarriedAsItIs)
 {
-    g_error = 0x80004005;
-    FailCall("SHCreateMenuBar", 2);
+    shell->FailBar(2, 0x80004005);
     Call();
     ExpectThrown(static_cast<HRESULT>(0x80004005));
+}
+
+TEST_F(NowCall, AnErrorOfTheBarThatIsNoneIsCarriedAsItIsToo)
+{
+    shell->FailBar(2, ERROR_SUCCESS);
+    Call();
+    ExpectThrown(S_OK);
 }
 
 TEST_F(NowCall, AFailureTouchesNoRegistration)
 {
     registry.Add(L"Bad", L"bad", 4);
-    FailCall("SHInitDialog", 2);
+    shell->FailFullScreen(2);
     Call();
     ExpectThrown(kBroken);
     EXPECT_TRUE(registry.Exists(L"Bad"));
@@ -209,11 +151,11 @@ TEST_F(NowCall, AFailureTouchesNoRegistration)
 
 TEST_F(NowCall, WithoutItsTemplateNothingIsShown)
 {
-    m_patch = std::make_unique<CImportPatch>(module->Handle(), "kernel32.dll", "FindResourceW",
-                                             FindNothing);
-    Call();
-    ExpectEnd(FALSE);
-    m_patch.reset();
+    {
+        const CImportPatch patch(module->Handle(), "kernel32.dll", "FindResourceW", FindNothing);
+        Call();
+        ExpectEnd(FALSE);
+    }
     Open();
     Done();
 }

@@ -1,48 +1,25 @@
 // Calls of the shell that fail while the wizard opens, and what opening it often leaves behind.
 #include "tests/dialogs/wizard/WizardFixture.h"
-#include "tests/support/ImportPatch.h"
 #include "tests/support/LeakCounter.h"
-
-#include <aygshell.h>
+#include "tests/support/ShellWatch.h"
 
 namespace
 {
 
-// Which call of the patched function fails, from 1, and with which last error.
-int g_calls;
-int g_failing;
-DWORD g_error;
-void* g_original;
-
-BOOL WINAPI FailOneCall(void* info)
-{
-    if (++g_calls == g_failing)
-    {
-        SetLastError(g_error);
-        return FALSE;
-    }
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
-}
-
 class WizardFailure : public WizardFixture
 {
 protected:
-    WizardFailure() { module = std::make_unique<CModule>(); }
+    WizardFailure()
+    {
+        module = std::make_unique<CModule>();
+        shell = std::make_unique<CShellWatch>(module->Handle());
+    }
     ~WizardFailure() override
     {
         run.reset();
-        patch.reset();
+        shell.reset();
     }
 
-    void FailCall(const char* function, int call, DWORD error)
-    {
-        g_calls = 0;
-        g_failing = call;
-        g_error = error;
-        g_original = *FindImport(module->Handle(), "aygshell.dll", function);
-        patch =
-            std::make_unique<CImportPatch>(module->Handle(), "aygshell.dll", function, FailOneCall);
-    }
     void ExpectThrown(HRESULT code)
     {
         Call();
@@ -53,81 +30,62 @@ protected:
         EXPECT_EQ(nullptr, run->InnermostDialog());
     }
 
-    std::unique_ptr<CImportPatch> patch;
+    std::unique_ptr<CShellWatch> shell;
 };
 
 } // namespace
 
 TEST_F(WizardFailure, TheFirstFullScreenRequestMayFail)
 {
-    FailCall("SHInitDialog", 1, ERROR_ACCESS_DENIED);
+    shell->FailFullScreen(1);
     Open();
     End(IDOK);
-    EXPECT_EQ(2, g_calls);
+    EXPECT_EQ(2u, shell->FullScreens().size());
 }
 
 TEST_F(WizardFailure, TheSecondFullScreenRequestFailsAsABrokenPrecondition)
 {
-    FailCall("SHInitDialog", 2, ERROR_ACCESS_DENIED);
+    shell->FailFullScreen(2);
     ExpectThrown(static_cast<HRESULT>(0x84000001));
 }
 
 TEST_F(WizardFailure, TheEmptyBarMayFail)
 {
-    FailCall("SHCreateMenuBar", 1, ERROR_ACCESS_DENIED);
+    shell->FailBar(1);
     Open();
     End(IDOK);
 }
 
 TEST_F(WizardFailure, TheDialogsOwnBarFailsWithTheSystemsCode)
 {
-    FailCall("SHCreateMenuBar", 2, ERROR_ACCESS_DENIED);
+    shell->FailBar(2);
     ExpectThrown(static_cast<HRESULT>(0x80070005));
 }
 
 TEST_F(WizardFailure, ANegativeCodeIsCarriedAsItIs)
 {
-    FailCall("SHCreateMenuBar", 2, 0x80004005);
+    shell->FailBar(2, 0x80004005);
     ExpectThrown(static_cast<HRESULT>(0x80004005));
 }
 
-namespace
+TEST_F(WizardFailure, AFailureWritesNothing)
 {
-
-// What each request was for.
-std::vector<DWORD> g_flags;
-BOOL WINAPI RecordInit(SHINITDLGINFO* info)
-{
-    g_flags.push_back(info->dwFlags);
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
+    registry.CreateKey(kTypeKey);
+    shell->FailBar(2);
+    ExpectThrown(static_cast<HRESULT>(0x80070005));
+    EXPECT_FALSE(registry.ValueExists(kTypeKey, L"Type"));
 }
-std::vector<std::pair<DWORD, UINT>> g_bars;
-BOOL WINAPI RecordBar(SHMENUBARINFO* info)
-{
-    g_bars.push_back({info->dwFlags, info->nToolBarId});
-    return reinterpret_cast<BOOL(WINAPI*)(void*)>(g_original)(info);
-}
-
-} // namespace
 
 TEST_F(WizardFailure, AsksForTheFullScreenWithoutTheInputPanel)
 {
-    g_flags.clear();
-    g_original = *FindImport(module->Handle(), "aygshell.dll", "SHInitDialog");
-    patch = std::make_unique<CImportPatch>(module->Handle(), "aygshell.dll", "SHInitDialog",
-                                           RecordInit);
     Open();
-    EXPECT_EQ((std::vector<DWORD>{13, 12}), g_flags);
+    EXPECT_EQ((std::vector<DWORD>{13, 12}), shell->FullScreens());
 }
 
 TEST_F(WizardFailure, AsksForItsBarWithoutThePanelsButton)
 {
-    g_bars.clear();
-    g_original = *FindImport(module->Handle(), "aygshell.dll", "SHCreateMenuBar");
-    patch = std::make_unique<CImportPatch>(module->Handle(), "aygshell.dll", "SHCreateMenuBar",
-                                           RecordBar);
     Open();
-    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), g_bars);
+    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), shell->Bars());
 }
 
 namespace
@@ -155,6 +113,7 @@ void CALLBACK CancelOpenDialog(HWND, UINT, UINT_PTR, DWORD)
 
 TEST_F(WizardFailure, OpeningAndClosingTwoHundredTimesLeavesNothing)
 {
+    shell.reset();
     WriteWizardArchive(folder, BothPictures());
     const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, CancelOpenDialog);
     const auto open = [this](int rounds)
