@@ -140,7 +140,7 @@ HWND CDialogRun::Focus() const
     return info.hwndFocus;
 }
 
-HWND CDialogRun::WaitForDialog(const std::wstring& title)
+HWND CDialogRun::WaitForDialog(const std::wstring& title, DWORD milliseconds)
 {
     HWND dialog = nullptr;
     const bool found = WaitUntil(
@@ -148,7 +148,8 @@ HWND CDialogRun::WaitForDialog(const std::wstring& title)
         {
             dialog = InnermostDialog();
             return HasEnded() || (dialog && TextOf(dialog) == title);
-        });
+        },
+        milliseconds);
     EXPECT_TRUE(found && !HasEnded()) << "no dialog with the expected title";
     if (HasEnded())
         return nullptr;
@@ -176,9 +177,9 @@ bool CDialogRun::HasEnded() const
     return WaitForSingleObject(m_ended, 0) == WAIT_OBJECT_0;
 }
 
-bool CDialogRun::WaitForEnd()
+bool CDialogRun::WaitForEnd(DWORD milliseconds)
 {
-    const bool ended = WaitForSingleObject(m_ended, kEndTimeout) == WAIT_OBJECT_0;
+    const bool ended = WaitForSingleObject(m_ended, milliseconds) == WAIT_OBJECT_0;
     EXPECT_TRUE(ended) << "the dialog is still open";
     return ended;
 }

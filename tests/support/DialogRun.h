@@ -20,8 +20,8 @@ public:
     CDialogRun& operator=(const CDialogRun&) = delete;
 
     // Waits for the innermost dialog of the run to have the given window text and to be ready for
-    // input; null and a failed test after 10 seconds.
-    HWND WaitForDialog(const std::wstring& title);
+    // input; null and a failed test when the time is up.
+    HWND WaitForDialog(const std::wstring& title, DWORD milliseconds = 10000);
     // The innermost visible dialog now; null when there is none.
     HWND InnermostDialog() const;
     // The window of the run's thread that has the focus; null when none has.
@@ -30,8 +30,8 @@ public:
     HWND WaitForPopup();
     // The pop-up menu that is open now; null when there is none.
     HWND OpenPopup() const;
-    // Waits for the call to return; false after 20 seconds.
-    bool WaitForEnd();
+    // Waits for the call to return; false when the time is up.
+    bool WaitForEnd(DWORD milliseconds = 20000);
     bool HasEnded() const;
 
     // After the end: what the export returned, nothing when it threw.

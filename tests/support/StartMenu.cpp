@@ -42,6 +42,13 @@ std::wstring CStartMenu::AddFile(const std::wstring& below) const
     return CreateEmptyFile(PathOf(below));
 }
 
+void CStartMenu::AddManyFiles(const std::wstring& below, int count) const
+{
+    const std::wstring folder = AddFolder(below) + L"\\";
+    for (int i = 0; i < count; ++i)
+        CreateEmptyFile(folder + std::to_wstring(i) + L".lnk");
+}
+
 std::wstring CStartMenu::AddFolder(const std::wstring& below) const
 {
     std::filesystem::create_directories(PathOf(below));

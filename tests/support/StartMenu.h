@@ -27,6 +27,8 @@ public:
     // Create an empty file or a folder with all folders above it; return the path.
     std::wstring AddFile(const std::wstring& below) const;
     std::wstring AddFolder(const std::wstring& below) const;
+    // Creates a folder with so many shortcuts, named by numbers from 0.
+    void AddManyFiles(const std::wstring& below, int count) const;
     void Remove(const std::wstring& below) const;
 
     // Makes the system take other folders for the two. They need not exist.

@@ -1,7 +1,7 @@
 // The messages that every dialog answers.
 #include "tests/support/Pixels.h"
 #include "tests/ui/DialogFixture.h"
-#include "tests/ui/ProcessPatch.h"
+#include "tests/support/ProcessPatch.h"
 
 #include <climits>
 

@@ -1,7 +1,7 @@
 // The help viewer and its command line.
 #include "ui/Help.h"
 
-#include "tests/ui/ProcessPatch.h"
+#include "tests/support/ProcessPatch.h"
 
 #include <gtest/gtest.h>
 

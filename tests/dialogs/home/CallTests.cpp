@@ -3,8 +3,11 @@
 #include "tests/dialogs/home/HomeFixture.h"
 #include "tests/support/ImportPatch.h"
 #include "tests/support/LeakCounter.h"
+#include "tests/support/ProcessPatch.h"
 #include "tests/support/ShellWatch.h"
 #include "tests/support/TranslationFixture.h"
+
+#include <commctrl.h>
 
 namespace
 {
@@ -62,6 +65,44 @@ TEST_F(HomeCall, TitleTextsAndSoftKeysAreTranslated)
     EXPECT_EQ(L"Abbrechen", SoftKeyText(dialog, 1));
     EXPECT_EQ(L"Startmenü", tree.TextOf(tree.Find(L"")));
     EXPECT_NE(nullptr, tree.Find(L"Werkzeuge"));
+}
+
+TEST_F(HomeCall, HelpShowsTheMainContents)
+{
+    Open();
+    ExpectHelp(module->Handle(), dialog);
+    EXPECT_FALSE(run->HasEnded());
+}
+
+namespace
+{
+
+std::vector<HCURSOR> g_cursors;
+// How many nodes the tree had when the cursor changed.
+std::vector<int> g_nodes;
+
+HCURSOR WINAPI WatchCursor(HCURSOR cursor)
+{
+    g_cursors.push_back(cursor);
+    const HWND dialog = FindWindowW(L"#32770", L"Manage Pinned");
+    const HWND view = dialog ? GetDlgItem(dialog, kTreeId) : nullptr;
+    g_nodes.push_back(view ? static_cast<int>(SendMessageW(view, TVM_GETCOUNT, 0, 0)) : -1);
+    return SetCursor(cursor);
+}
+
+} // namespace
+
+TEST_F(HomeCall, TheWaitCursorIsShownWhileTheTreeIsFilledAndTheOldOneRestored)
+{
+    module = std::make_unique<CModule>();
+    g_cursors.clear();
+    g_nodes.clear();
+    const CImportPatch patch(module->Handle(), "user32.dll", "SetCursor", WatchCursor);
+    Open();
+    ASSERT_EQ(2u, g_cursors.size());
+    EXPECT_EQ(LoadCursorW(nullptr, IDC_WAIT), g_cursors[0]);
+    EXPECT_NE(g_cursors[0], g_cursors[1]);
+    EXPECT_EQ((std::vector<int>{0, 14}), g_nodes);
 }
 
 // The shell.

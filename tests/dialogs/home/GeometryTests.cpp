@@ -59,3 +59,24 @@ TEST_F(HomeGeometry, EveryMenuOfTheFirstLevelIsInView)
     for (const wchar_t* const path : {L"", L"Programs", L"Settings", L"Tools", L"Messaging"})
         EXPECT_TRUE(tree.IsInView(tree.Find(path))) << path;
 }
+
+TEST_F(HomeGeometry, AResetOfTheScreenFitsTheTreeAgain)
+{
+    Open();
+    const RECT before = RectOf(tree.Window());
+    SetWindowPos(tree.Window(), nullptr, Px(7), before.top, Px(50), Px(40), SWP_NOZORDER);
+    EXPECT_EQ(0, SendMessageW(dialog, WM_SETTINGCHANGE, 0x3002, 0));
+    const RECT after = RectOf(tree.Window());
+    EXPECT_TRUE(EqualRect(&before, &after));
+}
+
+TEST_F(HomeGeometry, OtherSettingsLeaveTheTreeWhereItIs)
+{
+    Open();
+    SetWindowPos(tree.Window(), nullptr, Px(7), Px(40), Px(50), Px(40), SWP_NOZORDER);
+    const RECT before = RectOf(tree.Window());
+    for (const WPARAM setting : {WPARAM{0}, WPARAM{0xE0}, WPARAM{0x3001}, ~WPARAM{0}})
+        EXPECT_EQ(0, SendMessageW(dialog, WM_SETTINGCHANGE, setting, 0));
+    const RECT after = RectOf(tree.Window());
+    EXPECT_TRUE(EqualRect(&before, &after));
+}

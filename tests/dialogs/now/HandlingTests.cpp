@@ -1,6 +1,7 @@
 // The dialog worked by keys alone, by the stylus, and by messages that no honest sender sends.
 #include "tests/dialogs/now/NowFixture.h"
 #include "tests/support/FaultCounter.h"
+#include "tests/support/ProcessPatch.h"
 #include "tests/support/Wait.h"
 
 #include <climits>
@@ -180,7 +181,14 @@ TEST_F(NowHandling, OnlyOneRowIsSelectedAndStaysMarkedWithoutTheFocus)
 TEST_F(NowHandling, HelpShowsTheMainContents)
 {
     OpenThree();
-    // No viewer is installed here: nothing happens.
+    ExpectHelp(module->Handle(), dialog);
+    EXPECT_FALSE(run->HasEnded());
+}
+
+// No viewer is installed here.
+TEST_F(NowHandling, HelpWithoutAViewerDoesNothing)
+{
+    OpenThree();
     EXPECT_NE(0, SendMessageW(dialog, WM_HELP, 0, 0));
     EXPECT_FALSE(run->HasEnded());
 }

@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr int kWarmUp = 10;
-constexpr int kRounds = 100;
+constexpr int kRounds = 200;
 
 // What the timer does with a dialog that it finds open; works on the dialog's own thread, since a
 // thread per round would cost memory of its own.
@@ -55,7 +55,7 @@ protected:
 
     BOOL Open() { return m_module.CustomizeNow(m_owner, 0, 0, 0); }
     HMODULE Module() const { return m_module.Handle(); }
-    // Opens the dialog a hundred times and ends it with the command.
+    // Opens the dialog two hundred times and ends it with the command.
     void ExpectNothingLeft(UINT command)
     {
         g_command = command;
@@ -79,24 +79,24 @@ private:
 
 } // namespace
 
-TEST_F(NowLeaks, OpeningAndCancellingAHundredTimes)
+TEST_F(NowLeaks, OpeningAndCancellingTwoHundredTimes)
 {
     registry.AddMany(20, L"p");
     ExpectNothingLeft(IDCANCEL);
 }
 
-TEST_F(NowLeaks, OpeningAndConfirmingAHundredTimes)
+TEST_F(NowLeaks, OpeningAndConfirmingTwoHundredTimes)
 {
     registry.AddMany(20, L"p");
     ExpectNothingLeft(IDOK);
 }
 
-TEST_F(NowLeaks, OpeningTheEmptyDialogAHundredTimes)
+TEST_F(NowLeaks, OpeningTheEmptyDialogTwoHundredTimes)
 {
     ExpectNothingLeft(IDCANCEL);
 }
 
-TEST_F(NowLeaks, FailingToOpenAHundredTimes)
+TEST_F(NowLeaks, FailingToOpenTwoHundredTimes)
 {
     g_bars = 0;
     registry.AddMany(20, L"p");

@@ -66,12 +66,12 @@ UINT NowFixture::BoxOf(int row) const
            12;
 }
 
-void NowFixture::Check(const std::wstring& label, bool checked) const
+void NowFixture::CheckRow(int row, bool checked) const
 {
     LVITEMW item = {};
     item.state = INDEXTOSTATEIMAGEMASK(checked ? 2 : 1);
     item.stateMask = LVIS_STATEIMAGEMASK;
-    ToList(LVM_SETITEMSTATE, static_cast<WPARAM>(RowOf(label)), reinterpret_cast<LPARAM>(&item));
+    ToList(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
 }
 
 DWORD NowFixture::DataOf(int row) const

@@ -44,7 +44,8 @@ protected:
     // The state image of a row: 1 for an empty box, 2 for a checked one.
     UINT BoxOf(int row) const;
     // Puts a row's box into that state.
-    void Check(const std::wstring& label, bool checked) const;
+    void Check(const std::wstring& label, bool checked) const { CheckRow(RowOf(label), checked); }
+    void CheckRow(int row, bool checked) const;
     DWORD DataOf(int row) const;
     void SetData(int row, DWORD data) const;
     bool IsShown(int control) const;

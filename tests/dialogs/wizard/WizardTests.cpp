@@ -1,5 +1,9 @@
 // The dialog as a whole: its call, its controls, what it has of the other dialogs and what not.
 #include "tests/dialogs/wizard/WizardFixture.h"
+#include "tests/support/FaultCounter.h"
+#include "tests/support/ProcessPatch.h"
+
+#include <climits>
 
 namespace
 {
@@ -170,4 +174,32 @@ TEST_F(Wizard, WithoutAnInstallationFolderOpensAllTheSame)
     Open();
     EXPECT_EQ(nullptr, ImageOf(kClassicPicture));
     End(IDOK);
+}
+
+TEST_F(Wizard, HelpShowsTheMainContents)
+{
+    Open();
+    ExpectHelp(module->Handle(), dialog);
+    EXPECT_FALSE(run->HasEnded());
+}
+
+TEST_F(Wizard, ForgedMessagesChangeNothing)
+{
+    OpenWithPictures();
+    const CFaultCounter faults(module->Handle());
+    const std::wstring before = registry.Dump(L"");
+    for (const LPARAM data : {LPARAM(0), LPARAM(4), LPARAM(-1)})
+    {
+        SendMessageW(dialog, WM_NOTIFY, kClassic, data);
+        SendMessageW(dialog, WM_SETTINGCHANGE, 0x3002, data);
+    }
+    const UINT scroll = RegisterWindowMessageW(L"PPCD_ScrollMessage");
+    for (const int position : {INT_MIN, -1, 0, 24, INT_MAX})
+        EXPECT_EQ(0, SendMessageW(dialog, scroll, static_cast<WPARAM>(position), 0));
+    for (const UINT command : {0u, 3u, 221u, 224u, 0xFFFFu})
+        SendCommand(dialog, command);
+    EXPECT_TRUE(IsChecked(kClassic));
+    EXPECT_EQ(before, registry.Dump(L""));
+    EXPECT_FALSE(run->HasEnded());
+    EXPECT_EQ(0, faults.Count());
 }

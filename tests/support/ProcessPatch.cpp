@@ -1,4 +1,6 @@
-#include "tests/ui/ProcessPatch.h"
+#include "tests/support/ProcessPatch.h"
+
+#include <gtest/gtest.h>
 
 namespace
 {
@@ -38,9 +40,9 @@ bool IsClosed(HANDLE handle)
 
 } // namespace
 
-CProcessPatch::CProcessPatch(bool found)
-    : m_search(GetModuleHandleW(nullptr), "kernel32.dll", "SearchPathW", FindAnyProgram),
-      m_create(GetModuleHandleW(nullptr), "kernel32.dll", "CreateProcessW", KeepProgram)
+CProcessPatch::CProcessPatch(bool found, HMODULE module)
+    : m_search(module, "kernel32.dll", "SearchPathW", FindAnyProgram),
+      m_create(module, "kernel32.dll", "CreateProcessW", KeepProgram)
 {
     g_found = found;
     g_started.clear();
@@ -62,4 +64,14 @@ const std::wstring& CProcessPatch::SearchedPath() const
 bool CProcessPatch::HandlesAreClosed() const
 {
     return IsClosed(g_process.hProcess) && IsClosed(g_process.hThread);
+}
+
+void ExpectHelp(HMODULE module, HWND dialog, const std::wstring& topic)
+{
+    const CProcessPatch processes(true, module);
+    EXPECT_NE(0, SendMessageW(dialog, WM_HELP, 0, 0));
+    ASSERT_EQ(1u, processes.Started().size());
+    EXPECT_EQ(L"C:\\Programs\\PegHelp.exe", processes.Started()[0].application);
+    EXPECT_EQ(L"TavLumenar.htm#" + topic, processes.Started()[0].commandLine);
+    EXPECT_TRUE(processes.HandlesAreClosed());
 }

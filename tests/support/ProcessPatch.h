@@ -13,12 +13,13 @@ struct StartedProgram
     std::wstring commandLine;
 };
 
-// While it lives, the test program's code finds every program (or none) in "C:\Programs" and starts
-// none: what it would have started is kept.
+// While it lives, a module's code finds every program (or none) in "C:\Programs" and starts none:
+// what it would have started is kept. One at a time.
 class CProcessPatch
 {
 public:
-    explicit CProcessPatch(bool found = true);
+    // Without a module it is the test program itself.
+    explicit CProcessPatch(bool found = true, HMODULE module = GetModuleHandleW(nullptr));
     ~CProcessPatch();
 
     const std::vector<StartedProgram>& Started() const;
@@ -31,3 +32,7 @@ private:
     CImportPatch m_search;
     CImportPatch m_create;
 };
+
+// Asks a dialog of the module for help, and checks that this starts the viewer at the topic and
+// lets go of it.
+void ExpectHelp(HMODULE module, HWND dialog, const std::wstring& topic = L"Main_Contents");
