@@ -147,23 +147,100 @@ TEST(DibSection, TheSignatureIsNotLookedAt)
     EXPECT_TRUE(CMadeDib(file));
 }
 
-TEST(DibSection, BrokenFilesAreRefused)
+// One field of a sound file with a value that can't be true.
+struct Lie
 {
-    const struct
-    {
-        size_t field;
-        uint32_t value;
-    } lies[] = {{10, 0},          {10, 53},         {10, 0xFFFFFFFF}, {14, 0},   {14, 12},
-                {14, 0xFFFFFFFF}, {14, 124},        {18, 0},          {18, ~0u}, {18, 0x7FFFFFFF},
-                {22, 0},          {22, 0x80000000}, {22, 0x7FFFFFFF}, {26, 0},   {28, 0},
-                {28, 7},          {28, 64},         {30, 1},          {30, 4},   {46, 0xFFFFFFFF}};
-    for (const auto& lie : lies)
+    size_t field;
+    uint32_t value;
+    size_t bytes = 4;
+};
+
+// The fields' places in the file.
+constexpr size_t kPixelOffset = 10;
+constexpr size_t kHeaderSize = 14;
+constexpr size_t kWidth = 18;
+constexpr size_t kHeight = 22;
+constexpr size_t kPlanes = 26;
+constexpr size_t kBitCount = 28;
+constexpr size_t kCompression = 30;
+constexpr size_t kColoursUsed = 46;
+
+void ExpectLiesRefused(const BitmapSample& sample, const std::vector<Lie>& lies)
+{
+    for (const Lie& lie : lies)
     {
         SCOPED_TRACE(testing::Message() << lie.field << " = " << lie.value);
-        zip::Bytes file = BitmapSample().Bytes();
-        Patch(file, lie.field, lie.value, lie.field == 26 || lie.field == 28 ? 2 : 4);
+        zip::Bytes file = sample.Bytes();
+        Patch(file, lie.field, lie.value, lie.bytes);
         ExpectRefused(file);
     }
+}
+
+TEST(DibSection, AFileShorterThanItsHeadersIsRefused)
+{
+    zip::Bytes file = BitmapSample().Bytes();
+    for (const size_t size : {53u, 40u, 18u, 14u, 13u, 1u, 0u})
+    {
+        file.resize(size);
+        ExpectRefused(file);
+    }
+}
+
+TEST(DibSection, PixelsThatBeginInsideTheHeadersOrBehindTheFileAreRefused)
+{
+    ExpectLiesRefused(BitmapSample(), {{kPixelOffset, 0},
+                                       {kPixelOffset, 13},
+                                       {kPixelOffset, 53},
+                                       {kPixelOffset, 10000},
+                                       {kPixelOffset, 0x80000000},
+                                       {kPixelOffset, 0xFFFFFFFF}});
+}
+
+TEST(DibSection, AHeaderThatIsTooSmallOrDoesNotFitIsRefused)
+{
+    ExpectLiesRefused(BitmapSample(), {{kHeaderSize, 0},
+                                       {kHeaderSize, 12},
+                                       {kHeaderSize, 39},
+                                       {kHeaderSize, 124},
+                                       {kHeaderSize, 0xFFFFFFFF}});
+}
+
+TEST(DibSection, APaletteOrMasksThatAreNotThereAreRefused)
+{
+    // A sound file without colours of its own claims depths that need some.
+    ExpectLiesRefused(BitmapSample(), {{kBitCount, 1, 2},
+                                       {kBitCount, 4, 2},
+                                       {kBitCount, 8, 2},
+                                       {kColoursUsed, 1},
+                                       {kColoursUsed, 0xFFFFFFFF}});
+    BitmapSample masked = SampleOfDepth(32);
+    ExpectLiesRefused(masked, {{kCompression, BI_BITFIELDS}});
+}
+
+TEST(DibSection, AHeightOfZeroAndTheLowestOneAreRefused)
+{
+    ExpectLiesRefused(BitmapSample(), {{kHeight, 0}, {kHeight, 0x80000000}, {kHeight, 0x7FFFFFFF}});
+}
+
+TEST(DibSection, AWidthBelowOneAndOneThatOverflowsAreRefused)
+{
+    ExpectLiesRefused(BitmapSample(), {{kWidth, 0},
+                                       {kWidth, ~0u},
+                                       {kWidth, 0x80000000},
+                                       {kWidth, 0x7FFFFFFF},
+                                       {kWidth, 0x55555556}});
+}
+
+TEST(DibSection, CompressionsDepthsAndPlanesThatNobodyKnowsAreRefused)
+{
+    ExpectLiesRefused(BitmapSample(), {{kCompression, BI_RLE8},
+                                       {kCompression, BI_RLE4},
+                                       {kCompression, BI_JPEG},
+                                       {kCompression, BI_PNG},
+                                       {kBitCount, 0, 2},
+                                       {kBitCount, 7, 2},
+                                       {kBitCount, 64, 2},
+                                       {kPlanes, 0, 2}});
 }
 
 TEST(DibSection, NothingIsMadeForPixelsThatAreNotThere)

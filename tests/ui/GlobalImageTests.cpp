@@ -303,38 +303,69 @@ TEST_F(GlobalImage, OfNoSizeShowsNothing)
 namespace
 {
 
+RECT g_clientArea;
+
+BOOL WINAPI ClaimClientArea(HWND, RECT* area)
+{
+    *area = g_clientArea;
+    return TRUE;
+}
+
+// A preview in a dialog that can't make its bitmap.
 class GlobalImageFailure : public DialogFixture
 {
+protected:
+    // Paints a control in a dialog while a function of the system is replaced, and returns the code
+    // that leaves the dialog; 0 when none does.
+    template <class Function>
+    HRESULT CodeAfterPainting(const char* dll, const char* function, Function replacement)
+    {
+        CPlainDialog dialog;
+        CGlobalImageCtlr image;
+        HRESULT code = S_OK;
+        const auto act = [&](HWND window)
+        {
+            const HWND control = CreateStatic(window);
+            ASSERT_TRUE(image.SubclassWindow(control));
+            const CImportPatch patch(GetModuleHandleW(nullptr), dll, function, replacement);
+            UpdateWindow(control);
+            isInvalid = GetUpdateRect(control, nullptr, FALSE);
+            dialog.Ended = TRUE;
+            PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+        };
+        try
+        {
+            Run(dialog, act);
+        }
+        catch (const CTavException& exception)
+        {
+            code = exception.Code();
+        }
+        EXPECT_EQ(nullptr, image.m_hWnd);
+        return code;
+    }
+
+    // Whether the control was to be painted again.
+    BOOL isInvalid = TRUE;
 };
 
 } // namespace
 
 TEST_F(GlobalImageFailure, WithoutItsBitmapEndsTheDialogWithTheSystemsCode)
 {
-    CPlainDialog dialog;
-    HRESULT code = 0;
-    BOOL isInvalid = TRUE;
-    CGlobalImageCtlr image;
-    const auto act = [&](HWND window)
+    EXPECT_EQ(static_cast<HRESULT>(0x80070008),
+              CodeAfterPainting("gdi32.dll", "CreateDIBSection", RefuseBitmap));
+    EXPECT_FALSE(isInvalid) << "asked to paint again and again";
+}
+
+// More than windows can have here, and than a bitmap can have anywhere; and none at all.
+TEST_F(GlobalImageFailure, OfAnImpossibleSizeEndsTheDialogWithoutPaintingForEver)
+{
+    for (const RECT& area : {RECT{0, 0, 40000, 40000}, RECT{0, 0, 40, 0}, RECT{0, 0, 0, 40}})
     {
-        const HWND control = CreateStatic(window);
-        ASSERT_TRUE(image.SubclassWindow(control));
-        const CImportPatch patch(GetModuleHandleW(nullptr), "gdi32.dll", "CreateDIBSection",
-                                 RefuseBitmap);
-        UpdateWindow(control);
-        // Not asked to paint again and again.
-        isInvalid = GetUpdateRect(control, nullptr, FALSE);
-        dialog.Ended = TRUE;
-    };
-    try
-    {
-        Run(dialog, act);
+        g_clientArea = area;
+        EXPECT_EQ(static_cast<HRESULT>(0x80070057),
+                  CodeAfterPainting("user32.dll", "GetClientRect", ClaimClientArea));
+        EXPECT_FALSE(isInvalid) << "asked to paint again and again";
     }
-    catch (const CTavException& exception)
-    {
-        code = exception.Code();
-    }
-    EXPECT_EQ(static_cast<HRESULT>(0x80070008), code);
-    EXPECT_FALSE(isInvalid);
-    EXPECT_EQ(nullptr, image.m_hWnd);
 }

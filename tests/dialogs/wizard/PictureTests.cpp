@@ -99,6 +99,32 @@ TEST_F(WizardPicture, ThatIsNoBitmapStaysEmpty)
     ExpectUsable();
 }
 
+// Its height is negative in the file, but not on the screen.
+TEST_F(WizardPicture, WithItsTopRowFirstIsShownLikeAnyOther)
+{
+    WizardMembers members = BothPictures();
+    const auto height = static_cast<uint32_t>(-kClassicSize.cy);
+    for (size_t i = 0; i < 4; ++i)
+        members[0].second[22 + i] = static_cast<char>(height >> (8 * i));
+    WriteWizardArchive(folder, members);
+    Open();
+    ExpectBoth();
+    EXPECT_EQ(Px(kClassicSize.cy), PlaceOf(kClassicPicture).bottom - PlaceOf(kClassicPicture).top);
+}
+
+// A million rows that aren't there, and none at all.
+TEST_F(WizardPicture, OfAnImpossibleHeightStaysEmpty)
+{
+    WizardMembers members = BothPictures();
+    members[0].second[24] = 0x10;
+    members[1].second[22] = 0;
+    WriteWizardArchive(folder, members);
+    Open();
+    EXPECT_EQ(nullptr, ImageOf(kClassicPicture));
+    EXPECT_EQ(nullptr, ImageOf(kProfessionalPicture));
+    ExpectUsable();
+}
+
 TEST_F(WizardPicture, OfAnArchiveThatIsNoneStaysEmpty)
 {
     folder.Write(L"qa_wizard.dat", "no archive at all");
