@@ -157,6 +157,23 @@ bool FlipBox(HWND tree, POINT point)
     return true;
 }
 
+bool IsOnListBox(HWND list, POINT point)
+{
+    if ((ListView_GetExtendedListViewStyle(list) & LVS_EX_CHECKBOXES) == 0)
+        return false;
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    // Without the row the flag has another meaning.
+    return ListView_HitTest(list, &hit) >= 0 && hit.flags == LVHT_ONITEMSTATEICON;
+}
+
+// What a press is to the control behind the manners: some lists flip a box at single presses only,
+// which would lose every second one of quick taps.
+UINT PressFor(HWND control, UINT message, POINT point, Kind kind)
+{
+    return kind == List && IsOnListBox(control, point) ? WM_LBUTTONDOWN : message;
+}
+
 LRESULT OnPress(HWND control, UINT message, WPARAM wParam, LPARAM lParam, Kind kind)
 {
     const POINT point = PointOf(lParam);
@@ -169,7 +186,9 @@ LRESULT OnPress(HWND control, UINT message, WPARAM wParam, LPARAM lParam, Kind k
         RequestMenuAt(control, point);
         return 0;
     }
-    return IsWindow(control) ? Default(control, message, wParam, lParam) : 0;
+    if (!IsWindow(control))
+        return 0;
+    return Default(control, PressFor(control, message, point, kind), wParam, lParam);
 }
 
 // A desktop's right button is a tap-and-hold that needs no waiting.

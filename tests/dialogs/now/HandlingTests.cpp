@@ -117,16 +117,15 @@ TEST_F(NowHandling, ATapOnABoxFlipsIt)
     EXPECT_EQ(1u, registry.Inactive(L"C"));
 }
 
-TEST_F(NowHandling, AnotherTapFlipsABoxBack)
+// As quick as a double tap, or slower.
+TEST_F(NowHandling, EachFurtherTapFlipsABoxBack)
 {
     OpenThree();
-    Tap(PointOn(1, LVHT_ONITEMSTATEICON));
-    ASSERT_TRUE(TurnsInto(1, 2));
-    // Elsewhere in between, so that the two are no double tap.
-    Tap(PointOn(2, LVHT_ONITEMSTATEICON));
-    ASSERT_TRUE(TurnsInto(2, 1));
-    Tap(PointOn(1, LVHT_ONITEMSTATEICON));
-    EXPECT_TRUE(TurnsInto(1, 1));
+    for (const UINT box : {2u, 1u, 2u, 1u})
+    {
+        Tap(PointOn(1, LVHT_ONITEMSTATEICON));
+        ASSERT_TRUE(TurnsInto(1, box));
+    }
 }
 
 TEST_F(NowHandling, ATapOnALabelSelectsItsRowAndFlipsNothing)

@@ -98,3 +98,33 @@ TEST_F(StylusList, EnterIsTheDialogsOk)
     TypeKey(VK_RETURN);
     EXPECT_TRUE(dialog.RunUntil([this] { return dialog.CountCommand(IDOK) == 1; }));
 }
+
+TEST_F(StylusList, ADoubleTapOnABoxFlipsItTwice)
+{
+    ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES);
+    RECT row{};
+    ListView_GetItemRect(list, 1, &row, LVIR_BOUNDS);
+    LVHITTESTINFO hit{};
+    hit.pt = {row.left, CentreOf(row).y};
+    while (ListView_HitTest(list, &hit) != 1 || hit.flags != LVHT_ONITEMSTATEICON)
+        ASSERT_LT(++hit.pt.x, row.right) << "the row has no box";
+    const LPARAM box = PointParam({hit.pt.x + 2, hit.pt.y});
+    for (const UINT press : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK})
+    {
+        const BOOL before = ListView_GetCheckState(list, 1);
+        SendMessageW(list, press, MK_LBUTTON, box);
+        SendMessageW(list, WM_LBUTTONUP, 0, box);
+        EXPECT_NE(before, static_cast<BOOL>(ListView_GetCheckState(list, 1))) << press;
+    }
+    EXPECT_EQ(dialog.CountNotify(NM_STYLUSDOWN), 4);
+}
+
+TEST_F(StylusList, ADoubleTapOnALabelStaysOne)
+{
+    ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES);
+    const LPARAM label = PointParam(Row(1));
+    SendMessageW(list, WM_LBUTTONDBLCLK, MK_LBUTTON, label);
+    SendMessageW(list, WM_LBUTTONUP, 0, label);
+    EXPECT_EQ(dialog.CountNotify(static_cast<UINT>(NM_DBLCLK)), 1);
+    EXPECT_FALSE(ListView_GetCheckState(list, 1));
+}
