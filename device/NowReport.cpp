@@ -12,9 +12,19 @@ namespace report
 namespace
 {
 
+// A registration itself, not a key below one.
 bool IsPlugin(const std::wstring& path)
 {
-    return os::BeginsNoCase(path, std::wstring(keys::kPlugins) + L"\\");
+    const std::wstring above = std::wstring(keys::kPlugins) + L"\\";
+    return os::BeginsNoCase(path, above) && path.find(L'\\', above.size()) == std::wstring::npos;
+}
+
+// Whether the dialog deletes such a registration of its own accord.
+bool IsMalformed(const RegistrySnapshot& snapshot, const std::wstring& path)
+{
+    const RegistryValue* const kind = FindValue(snapshot, path, L"Kind");
+    return IsMalformedPlugin(TextOf(FindValue(snapshot, path, kTextValue)),
+                             kind ? static_cast<int32_t>(NumberOf(kind, 0)) : KindMissing);
 }
 
 std::wstring KeyNameOf(const std::wstring& path)
@@ -78,8 +88,9 @@ std::wstring NowKeyVanished(const RegistrySnapshot& before, const std::wstring& 
 {
     if (!IsPlugin(path))
         return {};
-    return L"the malformed plug-in registration " + PluginName(before, path) +
-           L" was deleted (key " + KeyNameOf(path) + L")";
+    return std::wstring(IsMalformed(before, path) ? L"the malformed plug-in registration "
+                                                  : L"the plug-in registration ") +
+           PluginName(before, path) + L" was deleted (key " + KeyNameOf(path) + L")";
 }
 
 } // namespace report

@@ -15,6 +15,8 @@ namespace report
 namespace
 {
 
+constexpr const wchar_t* kTimestampValue = L"Timestamp";
+
 using Names = std::set<std::wstring, CaseFreeLess>;
 
 Names PinnedNames(const RegistrySnapshot& snapshot)
@@ -55,6 +57,18 @@ void Describe(const RegistrySnapshot& snapshot, const Names& here, const Names& 
             lines.push_back(L"\"" + TitleOf(snapshot, name) + L"\" " + what + L" (" + name + L")");
 }
 
+// How often the list was saved; nothing for a list that is gone.
+std::wstring SavesOf(const RegistrySnapshot& before, const RegistrySnapshot& after)
+{
+    const RegistryValue* now = FindValue(after, keys::kGlobalList, kTimestampValue);
+    if (!now)
+        return {};
+    const uint32_t count = NumberOf(now, 0);
+    const uint32_t was = NumberOf(FindValue(before, keys::kGlobalList, kTimestampValue), 0);
+    return L"; saves of GlobalMRUList: " + std::to_wstring(count - was) + L" (Timestamp = " +
+           std::to_wstring(count) + L")";
+}
+
 } // namespace
 
 bool IsPinList(const std::wstring& path)
@@ -72,11 +86,7 @@ std::vector<std::wstring> DescribePins(const RegistrySnapshot& before,
     Describe(before, was, now, L"is no longer pinned to the home screen", lines);
     if (lines.empty())
         return lines;
-    const auto saved = [](const RegistrySnapshot& snapshot)
-    { return NumberOf(FindValue(snapshot, keys::kGlobalList, L"Timestamp"), 0); };
-    lines.push_back(L"pinned entries: " + std::to_wstring(now.size()) +
-                    L"; saves of GlobalMRUList: " + std::to_wstring(saved(after) - saved(before)) +
-                    L" (Timestamp = " + std::to_wstring(saved(after)) + L")");
+    lines.push_back(L"pinned entries: " + std::to_wstring(now.size()) + SavesOf(before, after));
     return lines;
 }
 

@@ -73,6 +73,14 @@ TEST_F(ChoiceReport, AListThatIsGoneHasNoPins)
     StoreList(before, 0x80, 0, 1);
     ASSERT_EQ(2u, Changes().size());
     EXPECT_EQ(0u, Changes().front().find(L"\"Games\" is no longer pinned"));
+    EXPECT_EQ(L"pinned entries: 0", Changes().back()) << "nobody has saved it";
+}
+
+TEST_F(ChoiceReport, SavesAreCountedRoundTheEndOfTheirNumbers)
+{
+    StoreList(before, 0, 0x80, 0xFFFFFFFF);
+    StoreList(after, 0x80, 0x80, 0);
+    EXPECT_EQ(L"pinned entries: 2; saves of GlobalMRUList: 1 (Timestamp = 0)", Changes().back());
 }
 
 TEST_F(ChoiceReport, AnIndexOfOddLengthIsReadWithoutHarm)
@@ -112,6 +120,24 @@ TEST_F(ChoiceReport, ADeletedRegistrationIsToldByItsTextOrItsKey)
         Changes(),
         ElementsAre(L"the malformed plug-in registration \"Sky Watch\" was deleted (key Sky)",
                     L"the malformed plug-in registration \"Zero\" was deleted (key Zero)"));
+}
+
+TEST_F(ChoiceReport, AKeyInsideARegistrationIsNoRegistration)
+{
+    StorePlugin(before);
+    before[kPlugin + L"\\Inner"][L"Inactive"] = NumberValue(1);
+    EXPECT_THAT(
+        Changes(),
+        ElementsAre(L"the malformed plug-in registration \"Sky Watch\" was deleted (key Sky)",
+                    L"key " + kPlugin + L"\\Inner was deleted"));
+}
+
+TEST_F(ChoiceReport, ASoundRegistrationThatIsGoneIsNotCalledMalformed)
+{
+    StorePlugin(before);
+    before[kPlugin][L"Kind"] = NumberValue(2);
+    EXPECT_THAT(Changes(),
+                ElementsAre(L"the plug-in registration \"Sky Watch\" was deleted (key Sky)"));
 }
 
 TEST_F(ChoiceReport, TheLayoutIsToldByItsName)

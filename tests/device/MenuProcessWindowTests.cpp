@@ -151,7 +151,7 @@ TEST_F(MenuProcessWindow, NumbersRunFromAHundredWithoutAGapAndThenEnd)
     int number = icons::kFirst;
     while (DrawNumber(number, m_canvas.Dc()))
         ++number;
-    EXPECT_GE(number - icons::kFirst, 16);
+    EXPECT_GE(number - icons::kFirst, 40) << "so that the list of icons has to be scrolled";
     EXPECT_EQ(0, DrawNumber(99, m_canvas.Dc()));
     EXPECT_EQ(0, DrawNumber(0, m_canvas.Dc()));
     EXPECT_EQ(0, DrawNumber(-1, m_canvas.Dc()));
@@ -230,6 +230,12 @@ TEST_F(MenuProcessFiles, AShortcutShowsTheIconThatItNames)
 TEST_F(MenuProcessFiles, ABrokenShortcutStillHasSomeIcon)
 {
     EXPECT_NE(0, DrawFile(m_folder + L"\\Plain.lnk"));
+}
+
+TEST_F(MenuProcessFiles, AFolderHasTheSystemsIcon)
+{
+    EXPECT_NE(0, DrawFile(m_folder));
+    EXPECT_GT(m_canvas.ColouredPixels(), 50);
 }
 
 TEST_F(MenuProcessFiles, ShortcutsAndFoldersOfTheStartMenuAreShown)
