@@ -2,9 +2,11 @@
 #include "dialogs/now/PluginList.h"
 #include "platform/os/Registry.h"
 #include "tests/dialogs/now/NowFixture.h"
+#include "tests/support/ImportPatch.h"
 
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 
 namespace
 {
@@ -168,25 +170,81 @@ TEST_F(NowVolume, ThousandsOfMalformedRegistrationsGoInTenSeconds)
 }
 
 // More plug-ins than a row's data can tell apart: the 65,537th row stands for the first key.
+
+namespace
+{
+
+constexpr DWORD kBeyond = 65537;
+
+// The key that was found last.
+DWORD g_found;
+
+// Lists that many keys, of which only three names exist: to write so many takes minutes.
+LSTATUS WINAPI EnumMany(HKEY, DWORD index, wchar_t* name, DWORD* size, DWORD*, wchar_t*, DWORD*,
+                        FILETIME*)
+{
+    if (index >= kBeyond)
+        return ERROR_NO_MORE_ITEMS;
+    g_found = index;
+    lstrcpyW(name, index == 0 ? L"First" : index == kBeyond - 1 ? L"Last" : L"Other");
+    *size = static_cast<DWORD>(wcslen(name));
+    return ERROR_SUCCESS;
+}
+
+// Takes a value from here instead of the registry.
+LSTATUS Give(const void* value, DWORD valueType, DWORD bytes, DWORD* type, BYTE* data, DWORD* size)
+{
+    if (!data || *size < bytes)
+        return ERROR_MORE_DATA;
+    memcpy(data, value, bytes);
+    if (type)
+        *type = valueType;
+    *size = bytes;
+    return ERROR_SUCCESS;
+}
+
+// Gives each of them a text of its own; of the registry's values only the flag is the real one.
+LSTATUS WINAPI DescribeMany(HKEY key, const wchar_t* name, DWORD* reserved, DWORD* type, BYTE* data,
+                            DWORD* size)
+{
+    const std::wstring value = name;
+    if (value == L"Inactive")
+        return RegQueryValueExW(key, name, reserved, type, data, size);
+    if (value == L"Kind")
+        return Give(&kProfile, REG_DWORD, sizeof(kProfile), type, data, size);
+    if (value != L"Text")
+        return ERROR_FILE_NOT_FOUND;
+    const std::wstring text = std::to_wstring(100000 + g_found);
+    const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    return Give(text.c_str(), REG_SZ, bytes, type, data, size);
+}
+
+} // namespace
+
 TEST_F(NowVolume, Of65537PluginsTheLastOneIsSavedToTheFirstKey)
 {
     if (!IsLongRun())
-        GTEST_SKIP() << "takes two minutes; set TAV_LONG";
-    constexpr int kBeyond = 65537;
-    constexpr DWORD kPatience = 60000;
-    registry.AddMany(kBeyond, L"");
+        GTEST_SKIP() << "takes a minute; set TAV_LONG";
+    constexpr DWORD kPatience = 55000;
+    for (const wchar_t* const plugin : {L"First", L"Other", L"Last"})
+        registry.Add(plugin, plugin, kProfile);
+    module = std::make_unique<CModule>();
+    const CImportPatch keys(module->Handle(), "advapi32.dll", "RegEnumKeyExW", EnumMany);
+    const CImportPatch values(module->Handle(), "advapi32.dll", "RegQueryValueExW", DescribeMany);
     Call();
     dialog = run->WaitForDialog(kNowTitle, kPatience);
     ASSERT_NE(nullptr, dialog);
     list = GetDlgItem(dialog, kListId);
-    ASSERT_EQ(kBeyond, RowCount());
-    EXPECT_EQ(L"65536 (calendar)", LabelOf(kBeyond - 1));
-    EXPECT_EQ(0x00000000u, DataOf(kBeyond - 1));
-    CheckRow(kBeyond - 1, true);
+    constexpr int kLast = kBeyond - 1;
+    ASSERT_EQ(kLast + 1, RowCount());
+    EXPECT_EQ(L"165536 (profile)", LabelOf(kLast));
+    EXPECT_EQ(0x00030000u, DataOf(kLast));
+    EXPECT_EQ(0x0003FFFFu, DataOf(kLast - 1));
+    CheckRow(kLast, true);
     PostCommand(dialog, IDOK);
     ASSERT_TRUE(run->WaitForEnd(kPatience));
     EXPECT_EQ(TRUE, run->Result());
-    EXPECT_EQ(0u, registry.Inactive(L"P00000"));
-    EXPECT_FALSE(registry.HasInactive(L"P65536"));
-    EXPECT_FALSE(registry.HasInactive(L"P00001"));
+    EXPECT_EQ(0u, registry.Inactive(L"First"));
+    EXPECT_FALSE(registry.HasInactive(L"Last"));
+    EXPECT_FALSE(registry.HasInactive(L"Other"));
 }
