@@ -91,13 +91,11 @@ void CTavFileTreeCtrl::BuildRoot()
         m_baseFolder = folder;
         entry += name;
     }
-    ExpandFolder(InsertEntry(TVI_ROOT, m_baseFolder, entry));
+    ExpandFolder(InsertEntry(TVI_ROOT, entry, ImageOf(m_baseFolder, entry)));
 }
 
-HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& folder,
-                                        const std::wstring& entry)
+HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& entry, int image)
 {
-    const wchar_t type = entry.front();
     std::wstring name = entry.substr(1);
     TVINSERTSTRUCTW insert = {};
     insert.hParent = parent;
@@ -105,20 +103,21 @@ HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& fo
     insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM;
     insert.item.pszText = name.data();
     insert.item.lParam = kUnfilled;
-    insert.item.iImage = ImageOf(type, filetree::JoinPath(folder, name));
-    insert.item.iSelectedImage = insert.item.iImage;
+    insert.item.iImage = image;
+    insert.item.iSelectedImage = image;
     const HTREEITEM node = InsertItem(insert);
     if (!node)
         ThrowOutOfMemory();
-    if (type == kFolderType)
+    if (entry.front() == kFolderType)
         InsertPlaceholder(node);
     return node;
 }
 
-int CTavFileTreeCtrl::ImageOf(wchar_t type, const std::wstring& path) const
+int CTavFileTreeCtrl::ImageOf(const std::wstring& folder, const std::wstring& entry) const
 {
     if (IconMode)
-        return os::SmallIconOf(path);
+        return os::SmallIconOf(filetree::JoinPath(folder, std::wstring_view(entry).substr(1)));
+    const wchar_t type = entry.front();
     if (type == kFolderType)
         return kFolderImage;
     return type == kFileType ? kFileImage : kOtherImage;
@@ -149,8 +148,13 @@ void CTavFileTreeCtrl::FillFolder(HTREEITEM node)
     if (const HTREEITEM placeholder = GetChildItem(node))
         DeleteItem(placeholder);
     const std::wstring folder = FullPath(node);
-    for (const std::wstring& entry : EntriesOf(folder))
-        InsertEntry(node, folder, entry);
+    const std::vector<std::wstring> entries = EntriesOf(folder);
+    // All of them first: what the system does for an icon would make the insertion after it dearer.
+    std::vector<int> images;
+    for (const std::wstring& entry : entries)
+        images.push_back(ImageOf(folder, entry));
+    for (size_t i = 0; i < entries.size(); ++i)
+        InsertEntry(node, entries[i], images[i]);
 }
 
 void CTavFileTreeCtrl::ExpandFolder(HTREEITEM node)

@@ -39,9 +39,10 @@ private:
     LRESULT OnStylusDown(int id, NMHDR* header, BOOL& handled);
 
     void BuildRoot();
-    // `entry` is its type and its name in `folder`, the full path of `parent`.
-    HTREEITEM InsertEntry(HTREEITEM parent, const std::wstring& folder, const std::wstring& entry);
-    int ImageOf(wchar_t type, const std::wstring& path) const;
+    // `entry` is its type and its name, `image` its picture.
+    HTREEITEM InsertEntry(HTREEITEM parent, const std::wstring& entry, int image);
+    // The picture of an entry of the folder with that full path.
+    int ImageOf(const std::wstring& folder, const std::wstring& entry) const;
     void InsertPlaceholder(HTREEITEM folder);
     void FillFolder(HTREEITEM node);
     void ExpandFolder(HTREEITEM node);

@@ -14,7 +14,7 @@ using Lines = std::vector<std::wstring>;
 class PickFixture : public EditorFixture
 {
 protected:
-    // Opens the editor unless it is open, loads the module only.
+    // Loads the module, for tests that watch it before the editor opens.
     void LoadModule();
     // Opens the picker of a command for the node of the editor's tree at a path of labels.
     void OpenPicker(EditorCommand command, const std::wstring& menu);
