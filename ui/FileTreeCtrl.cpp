@@ -23,10 +23,20 @@ constexpr wchar_t kFileType = L'e';
 constexpr LPARAM kUnfilled = 0;
 constexpr LPARAM kFilled = 1;
 
+// Not asked for yet.
+constexpr int kUnknownIcon = -1;
+
 // Images without the system's icons.
 constexpr int kFolderImage = 0;
 constexpr int kOtherImage = 1;
 constexpr int kFileImage = 2;
+
+int ImageOf(wchar_t type)
+{
+    if (type == kFolderType)
+        return kFolderImage;
+    return type == kFileType ? kFileImage : kOtherImage;
+}
 
 // What a folder holds, in the order in which it is shown.
 std::vector<std::wstring> EntriesOf(const std::wstring& folder)
@@ -56,15 +66,34 @@ std::wstring CTavFileTreeCtrl::SelectedPath() const
     return FullPath(GetSelectedItem());
 }
 
-// A forged notification may name any node: only one of the tree's own folders is touched.
+// A forged notification may name any node: only one of the tree's own is touched.
 LRESULT CTavFileTreeCtrl::OnItemExpanding(int /*id*/, NMHDR* header, BOOL& /*handled*/)
 {
     if (IsBadReadPtr(header, sizeof(NMTREEVIEWW)))
         return 0;
     const auto* const notification = reinterpret_cast<const NMTREEVIEWW*>(header);
     const HTREEITEM node = notification->itemNew.hItem;
-    if (notification->action == TVE_EXPAND && !m_expanding && m_folders.count(node) != 0)
+    if (notification->action == TVE_EXPAND && !m_expanding && m_icons.count(node) != 0)
         FillFolder(node);
+    return 0;
+}
+
+// The tree asks for both images of a node when it first shows or tells them, and keeps the answers.
+// The system takes milliseconds for an icon, which in a full folder would add up to half a minute.
+LRESULT CTavFileTreeCtrl::OnGetDispInfo(int /*id*/, NMHDR* header, BOOL& /*handled*/)
+{
+    if (IsBadWritePtr(header, sizeof(NMTVDISPINFOW)))
+        return 0;
+    TVITEMW& item = reinterpret_cast<NMTVDISPINFOW*>(header)->item;
+    const auto found = m_icons.find(item.hItem);
+    if (!(item.mask & (TVIF_IMAGE | TVIF_SELECTEDIMAGE)) || found == m_icons.end())
+        return 0;
+    int& icon = found->second;
+    if (icon == kUnknownIcon)
+        icon = os::SmallIconOf(FullPath(item.hItem));
+    item.iImage = icon;
+    item.iSelectedImage = icon;
+    item.mask |= TVIF_DI_SETITEM;
     return 0;
 }
 
@@ -77,7 +106,7 @@ LRESULT CTavFileTreeCtrl::OnStylusDown(int /*id*/, NMHDR* /*header*/, BOOL& /*ha
 void CTavFileTreeCtrl::BuildRoot()
 {
     DeleteAllItems();
-    m_folders.clear();
+    m_icons.clear();
     m_baseFolder.clear();
     std::wstring entry(1, kFolderType);
     if (StartPath.empty())
@@ -91,10 +120,10 @@ void CTavFileTreeCtrl::BuildRoot()
         m_baseFolder = folder;
         entry += name;
     }
-    ExpandFolder(InsertEntry(TVI_ROOT, entry, ImageOf(m_baseFolder, entry)));
+    ExpandFolder(InsertEntry(TVI_ROOT, entry));
 }
 
-HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& entry, int image)
+HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& entry)
 {
     std::wstring name = entry.substr(1);
     TVINSERTSTRUCTW insert = {};
@@ -103,24 +132,15 @@ HTREEITEM CTavFileTreeCtrl::InsertEntry(HTREEITEM parent, const std::wstring& en
     insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM;
     insert.item.pszText = name.data();
     insert.item.lParam = kUnfilled;
-    insert.item.iImage = image;
-    insert.item.iSelectedImage = image;
+    insert.item.iImage = IconMode ? I_IMAGECALLBACK : ImageOf(entry.front());
+    insert.item.iSelectedImage = insert.item.iImage;
     const HTREEITEM node = InsertItem(insert);
     if (!node)
         ThrowOutOfMemory();
+    m_icons.emplace(node, kUnknownIcon);
     if (entry.front() == kFolderType)
         InsertPlaceholder(node);
     return node;
-}
-
-int CTavFileTreeCtrl::ImageOf(const std::wstring& folder, const std::wstring& entry) const
-{
-    if (IconMode)
-        return os::SmallIconOf(filetree::JoinPath(folder, std::wstring_view(entry).substr(1)));
-    const wchar_t type = entry.front();
-    if (type == kFolderType)
-        return kFolderImage;
-    return type == kFileType ? kFileImage : kOtherImage;
 }
 
 // The child without a name makes the tree draw a button to expand the folder.
@@ -134,7 +154,6 @@ void CTavFileTreeCtrl::InsertPlaceholder(HTREEITEM folder)
     insert.item.pszText = noText;
     if (!InsertItem(insert))
         ThrowOutOfMemory();
-    m_folders.insert(folder);
 }
 
 void CTavFileTreeCtrl::FillFolder(HTREEITEM node)
@@ -147,14 +166,8 @@ void CTavFileTreeCtrl::FillFolder(HTREEITEM node)
     // Without a node to delete, the tree would delete all.
     if (const HTREEITEM placeholder = GetChildItem(node))
         DeleteItem(placeholder);
-    const std::wstring folder = FullPath(node);
-    const std::vector<std::wstring> entries = EntriesOf(folder);
-    // All of them first: what the system does for an icon would make the insertion after it dearer.
-    std::vector<int> images;
-    for (const std::wstring& entry : entries)
-        images.push_back(ImageOf(folder, entry));
-    for (size_t i = 0; i < entries.size(); ++i)
-        InsertEntry(node, entries[i], images[i]);
+    for (const std::wstring& entry : EntriesOf(FullPath(node)))
+        InsertEntry(node, entry);
 }
 
 void CTavFileTreeCtrl::ExpandFolder(HTREEITEM node)

@@ -6,7 +6,7 @@
 #include <aygshell.h>
 
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 
 // The control's parent sends its notifications back to it (REFLECT_NOTIFICATIONS). Nodes are named
 // by file and folder names; a folder's data are 0 until it is filled, and it has a child without a
@@ -18,6 +18,7 @@ public:
         if (uMsg == OCM_NOTIFY && IsBadReadPtr(reinterpret_cast<void*>(lParam), sizeof(NMHDR)))
             return FALSE;
         REFLECTED_NOTIFY_CODE_HANDLER(static_cast<UINT>(TVN_ITEMEXPANDINGW), OnItemExpanding)
+        REFLECTED_NOTIFY_CODE_HANDLER(static_cast<UINT>(TVN_GETDISPINFOW), OnGetDispInfo)
         REFLECTED_NOTIFY_CODE_HANDLER(NM_STYLUSDOWN, OnStylusDown)
     END_MSG_MAP()
 
@@ -36,13 +37,12 @@ public:
 
 private:
     LRESULT OnItemExpanding(int id, NMHDR* header, BOOL& handled);
+    LRESULT OnGetDispInfo(int id, NMHDR* header, BOOL& handled);
     LRESULT OnStylusDown(int id, NMHDR* header, BOOL& handled);
 
     void BuildRoot();
-    // `entry` is its type and its name, `image` its picture.
-    HTREEITEM InsertEntry(HTREEITEM parent, const std::wstring& entry, int image);
-    // The picture of an entry of the folder with that full path.
-    int ImageOf(const std::wstring& folder, const std::wstring& entry) const;
+    // `entry` is its type and its name.
+    HTREEITEM InsertEntry(HTREEITEM parent, const std::wstring& entry);
     void InsertPlaceholder(HTREEITEM folder);
     void FillFolder(HTREEITEM node);
     void ExpandFolder(HTREEITEM node);
@@ -52,9 +52,9 @@ private:
 
     // The folder that contains the root node's entry.
     std::wstring m_baseFolder;
-    // The folders among the nodes. Asking the tree for each of its nodes takes the longer the more
-    // there are.
-    std::unordered_set<HTREEITEM> m_folders;
+    // All nodes with a name, and their icons as far as they are known. Asking the tree whether it
+    // has a node takes the longer the more there are.
+    std::unordered_map<HTREEITEM, int> m_icons;
     // The control itself expands a node, which it has filled.
     BOOL m_expanding = FALSE;
 };

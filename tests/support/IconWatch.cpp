@@ -61,6 +61,12 @@ int CIconWatch::IconOf(const std::wstring& path)
     return -1;
 }
 
+size_t CIconWatch::Questions()
+{
+    const std::lock_guard<std::mutex> lock(g_mutex);
+    return g_paths.size();
+}
+
 bool CIconWatch::AreAllForSmallIcons()
 {
     const std::lock_guard<std::mutex> lock(g_mutex);

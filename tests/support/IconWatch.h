@@ -16,6 +16,8 @@ public:
 
     // The number that the path got; -1 when it wasn't asked about. Without its drive.
     static int IconOf(const std::wstring& path);
+    // How often the module has asked.
+    static size_t Questions();
     // Whether every question was for the place of a small icon in the system's list, and about what
     // really exists.
     static bool AreAllForSmallIcons();

@@ -176,9 +176,33 @@ TEST_F(FileTreeControl, WithIconsNodesShowTheIconsOfTheirFullPaths)
 {
     const CIconWatch icons(GetModuleHandleW(nullptr));
     Attach(L"\\Windows\\Programs", TRUE);
+    const auto images = tree.ImagesOf(tree.Find(L"calc.exe"));
     const int icon = CIconWatch::IconOf(L"\\Windows\\Programs\\calc.exe");
     EXPECT_NE(-1, icon);
-    EXPECT_EQ(std::make_pair(icon, icon), tree.ImagesOf(tree.Find(L"calc.exe")));
+    EXPECT_EQ(std::make_pair(icon, icon), images);
+}
+
+TEST_F(FileTreeControl, ANodesIconIsAskedForOnce)
+{
+    const CIconWatch icons(GetModuleHandleW(nullptr));
+    Attach(L"\\Windows\\Programs", TRUE);
+    tree.ImagesOf(tree.Find(L"calc.exe"));
+    const size_t asked = CIconWatch::Questions();
+    tree.ImagesOf(tree.Find(L"calc.exe"));
+    EXPECT_EQ(asked, CIconWatch::Questions());
+}
+
+TEST_F(FileTreeControl, ForgedQuestionsForPicturesAreNotAnswered)
+{
+    Attach(L"\\Windows\\Programs", TRUE);
+    NMTVDISPINFOW question = {};
+    question.hdr.hwndFrom = tree.Window();
+    question.hdr.code = static_cast<UINT>(TVN_GETDISPINFOW);
+    question.item.mask = TVIF_IMAGE;
+    question.item.iImage = -7;
+    question.item.hItem = reinterpret_cast<HTREEITEM>(&question);
+    SendMessageW(tree.Window(), OCM_NOTIFY, 0, reinterpret_cast<LPARAM>(&question));
+    EXPECT_EQ(-7, question.item.iImage);
 }
 
 TEST_F(FileTreeControl, TheTreeGetsTheSystemsImageListInBothModes)

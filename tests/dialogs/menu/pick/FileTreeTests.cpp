@@ -2,6 +2,7 @@
 #include "tests/dialogs/menu/pick/PickFixture.h"
 #include "tests/support/FolderWatch.h"
 #include "tests/support/IconWatch.h"
+#include "tests/support/Wait.h"
 
 #include <algorithm>
 
@@ -226,11 +227,26 @@ TEST_F(FileTree, EveryNodeShowsTheSystemsSmallIconOfItsFullPath)
                  {L"a.exe", L"\\a.exe"}};
     for (const auto& each : nodes)
     {
+        const auto images = entries.ImagesOf(entries.Find(each.node));
         const int icon = CIconWatch::IconOf(each.path);
         EXPECT_NE(-1, icon) << each.path;
-        EXPECT_EQ(std::make_pair(icon, icon), entries.ImagesOf(entries.Find(each.node)));
+        EXPECT_EQ(std::make_pair(icon, icon), images);
     }
     EXPECT_TRUE(CIconWatch::AreAllForSmallIcons());
+}
+
+TEST_F(FileTree, TheSystemIsAskedForTheIconsOfWhatIsShownOnly)
+{
+    LoadModule();
+    icons = std::make_unique<CIconWatch>(module->Handle());
+    constexpr int kFiles = 200;
+    for (int i = 0; i < kFiles; ++i)
+        device.AddFile(L"\\Windows\\" + std::to_wstring(1000 + i) + L".exe");
+    OpenFilesAt(L"Windows");
+    EXPECT_TRUE(WaitUntil([] { return CIconWatch::IconOf(L"\\Windows\\1000.exe") != -1; }));
+    EXPECT_EQ(-1, CIconWatch::IconOf(L"\\Windows\\1199.exe"));
+    const auto images = entries.ImagesOf(entries.Find(L"Windows/1199.exe"));
+    EXPECT_EQ(CIconWatch::IconOf(L"\\Windows\\1199.exe"), images.first);
 }
 
 TEST_F(FileTree, TheTreesPicturesAreTheSystemsSmallIcons)
