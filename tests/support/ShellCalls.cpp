@@ -2,6 +2,7 @@
 
 #include <aygshell.h>
 
+#include <algorithm>
 #include <mutex>
 
 namespace
@@ -88,8 +89,14 @@ void CShellCalls::RefuseBar(int call, DWORD error)
     g_bar.error = error;
 }
 
-std::vector<std::string> CShellCalls::Asked()
+std::vector<std::string> CShellCalls::Asked(size_t skipped)
 {
     const std::lock_guard<std::mutex> lock(g_mutex);
-    return g_asked;
+    const size_t first = std::min(skipped, g_asked.size());
+    return {g_asked.begin() + static_cast<ptrdiff_t>(first), g_asked.end()};
+}
+
+std::vector<std::string> CShellCalls::OfOneDialog(const std::string& bar)
+{
+    return {"bar 1 0", "init 13", "init 12", bar};
 }

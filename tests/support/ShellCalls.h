@@ -14,11 +14,13 @@ public:
     explicit CShellCalls(HMODULE module);
 
     // Refuses the call of that number among all of its function, from 1, with this last error.
-    static void RefuseInit(int call, DWORD error);
-    static void RefuseBar(int call, DWORD error);
+    static void RefuseInit(int call, DWORD error = ERROR_ACCESS_DENIED);
+    static void RefuseBar(int call, DWORD error = ERROR_ACCESS_DENIED);
 
-    // The calls so far: "init FLAGS" or "bar FLAGS MENU".
-    static std::vector<std::string> Asked();
+    // The calls so far, behind the first so many: "init FLAGS" or "bar FLAGS MENU".
+    static std::vector<std::string> Asked(size_t skipped = 0);
+    // What a dialog asks: first what all of them do, then its own, with `bar` last.
+    static std::vector<std::string> OfOneDialog(const std::string& bar);
 
 private:
     CImportPatch m_init;

@@ -4,7 +4,7 @@
 #include "tests/support/ImportPatch.h"
 #include "tests/support/LeakCounter.h"
 #include "tests/support/ProcessPatch.h"
-#include "tests/support/ShellWatch.h"
+#include "tests/support/ShellCalls.h"
 #include "tests/support/TranslationFixture.h"
 
 #include <commctrl.h>
@@ -116,7 +116,7 @@ protected:
     HomeShell()
     {
         module = std::make_unique<CModule>();
-        shell = std::make_unique<CShellWatch>(module->Handle());
+        shell = std::make_unique<CShellCalls>(module->Handle());
     }
     ~HomeShell() override
     {
@@ -136,7 +136,7 @@ protected:
         EXPECT_EQ(nullptr, run->InnermostDialog());
     }
 
-    std::unique_ptr<CShellWatch> shell;
+    std::unique_ptr<CShellCalls> shell;
 };
 
 constexpr HRESULT kAccessDenied = static_cast<HRESULT>(0x80070005);
@@ -146,29 +146,27 @@ constexpr HRESULT kAccessDenied = static_cast<HRESULT>(0x80070005);
 TEST_F(HomeShell, IsAskedForAFullScreenTwiceAndForABarOfMenu207WithoutAnInputPanelButton)
 {
     Open();
-    EXPECT_EQ((std::vector<DWORD>{13, 12}), shell->FullScreens());
-    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), shell->Bars());
+    EXPECT_EQ(CShellCalls::OfOneDialog("bar 20 207"), CShellCalls::Asked());
 }
 
 TEST_F(HomeShell, MayRefuseWhatTheBaseAsksFor)
 {
-    shell->FailFullScreen(1);
-    shell->FailBar(1);
+    CShellCalls::RefuseInit(1);
+    CShellCalls::RefuseBar(1);
     Open();
-    EXPECT_EQ(2u, shell->FullScreens().size());
-    EXPECT_EQ(2u, shell->Bars().size());
+    EXPECT_EQ(4u, CShellCalls::Asked().size());
     Done();
 }
 
 TEST_F(HomeShell, ThatRefusesTheDialogsOwnFullScreenLetsTheExportThrow)
 {
-    shell->FailFullScreen(2);
+    CShellCalls::RefuseInit(2);
     ExpectThrown(kAccessDenied);
 }
 
 TEST_F(HomeShell, ThatRefusesTheDialogsOwnBarLetsTheExportThrow)
 {
-    shell->FailBar(2);
+    CShellCalls::RefuseBar(2);
     ExpectThrown(kAccessDenied);
 }
 

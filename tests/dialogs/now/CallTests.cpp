@@ -1,7 +1,7 @@
 // Calling the export: results, arguments, owners, and system calls that fail while it opens.
 #include "tests/dialogs/now/NowFixture.h"
 #include "tests/support/ImportPatch.h"
-#include "tests/support/ShellWatch.h"
+#include "tests/support/ShellCalls.h"
 
 namespace
 {
@@ -19,7 +19,7 @@ protected:
     NowCall()
     {
         module = std::make_unique<CModule>();
-        shell = std::make_unique<CShellWatch>(module->Handle());
+        shell = std::make_unique<CShellCalls>(module->Handle());
     }
     ~NowCall() override
     {
@@ -35,7 +35,7 @@ protected:
         ASSERT_NE(nullptr, dialog);
     }
 
-    std::unique_ptr<CShellWatch> shell;
+    std::unique_ptr<CShellCalls> shell;
 };
 
 } // namespace
@@ -83,59 +83,53 @@ TEST_F(NowCall, PaintingTheDialogEnablesTheOwnerAlready)
     EXPECT_TRUE(IsWindowEnabled(run->Owner()));
 }
 
-TEST_F(NowCall, TheShellIsAskedForAFullScreenTwice)
+TEST_F(NowCall, TheShellIsAskedForAFullScreenTwiceAndForABarOfMenu207WithoutAnInputPanelButton)
 {
     Open();
-    EXPECT_EQ((std::vector<DWORD>{13, 12}), shell->FullScreens());
-}
-
-TEST_F(NowCall, TheBarIsMadeOfMenu207WithoutAnInputPanelButton)
-{
-    Open();
-    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), shell->Bars());
+    EXPECT_EQ(CShellCalls::OfOneDialog("bar 20 207"), CShellCalls::Asked());
 }
 
 TEST_F(NowCall, TheFirstFullScreenRequestMayFail)
 {
-    shell->FailFullScreen(1);
+    CShellCalls::RefuseInit(1);
     Open();
-    EXPECT_EQ(2u, shell->FullScreens().size());
+    EXPECT_EQ(4u, CShellCalls::Asked().size());
     Done();
 }
 
 // Unlike the other dialogs' own requests, whatever the shell's error is.
 TEST_F(NowCall, TheSecondFullScreenRequestFailsAsABrokenPrecondition)
 {
-    shell->FailFullScreen(2);
+    CShellCalls::RefuseInit(2);
     Call();
     ExpectThrown(kBroken);
 }
 
 TEST_F(NowCall, TheEmptyBarMayFail)
 {
-    shell->FailBar(1);
+    CShellCalls::RefuseBar(1);
     Open();
-    EXPECT_EQ(2u, shell->Bars().size());
+    EXPECT_EQ(4u, CShellCalls::Asked().size());
     Done();
 }
 
 TEST_F(NowCall, ItsOwnBarFailsWithTheSystemsError)
 {
-    shell->FailBar(2);
+    CShellCalls::RefuseBar(2);
     Call();
     ExpectThrown(kAccessDenied);
 }
 
 TEST_F(NowCall, ANegativeErrorOfTheBarIsCarriedAsItIs)
 {
-    shell->FailBar(2, 0x80004005);
+    CShellCalls::RefuseBar(2, 0x80004005);
     Call();
     ExpectThrown(static_cast<HRESULT>(0x80004005));
 }
 
 TEST_F(NowCall, AnErrorOfTheBarThatIsNoneIsCarriedAsItIsToo)
 {
-    shell->FailBar(2, ERROR_SUCCESS);
+    CShellCalls::RefuseBar(2, ERROR_SUCCESS);
     Call();
     ExpectThrown(S_OK);
 }
@@ -143,7 +137,7 @@ TEST_F(NowCall, AnErrorOfTheBarThatIsNoneIsCarriedAsItIsToo)
 TEST_F(NowCall, AFailureTouchesNoRegistration)
 {
     registry.Add(L"Bad", L"bad", 4);
-    shell->FailFullScreen(2);
+    CShellCalls::RefuseInit(2);
     Call();
     ExpectThrown(kBroken);
     EXPECT_TRUE(registry.Exists(L"Bad"));

@@ -1,7 +1,7 @@
 // Calls of the shell that fail while the wizard opens, and what opening it often leaves behind.
 #include "tests/dialogs/wizard/WizardFixture.h"
 #include "tests/support/LeakCounter.h"
-#include "tests/support/ShellWatch.h"
+#include "tests/support/ShellCalls.h"
 
 namespace
 {
@@ -12,7 +12,7 @@ protected:
     WizardFailure()
     {
         module = std::make_unique<CModule>();
-        shell = std::make_unique<CShellWatch>(module->Handle());
+        shell = std::make_unique<CShellCalls>(module->Handle());
     }
     ~WizardFailure() override
     {
@@ -30,62 +30,56 @@ protected:
         EXPECT_EQ(nullptr, run->InnermostDialog());
     }
 
-    std::unique_ptr<CShellWatch> shell;
+    std::unique_ptr<CShellCalls> shell;
 };
 
 } // namespace
 
 TEST_F(WizardFailure, TheFirstFullScreenRequestMayFail)
 {
-    shell->FailFullScreen(1);
+    CShellCalls::RefuseInit(1);
     Open();
     End(IDOK);
-    EXPECT_EQ(2u, shell->FullScreens().size());
+    EXPECT_EQ(4u, CShellCalls::Asked().size());
 }
 
 TEST_F(WizardFailure, TheSecondFullScreenRequestFailsAsABrokenPrecondition)
 {
-    shell->FailFullScreen(2);
+    CShellCalls::RefuseInit(2);
     ExpectThrown(static_cast<HRESULT>(0x84000001));
 }
 
 TEST_F(WizardFailure, TheEmptyBarMayFail)
 {
-    shell->FailBar(1);
+    CShellCalls::RefuseBar(1);
     Open();
     End(IDOK);
 }
 
 TEST_F(WizardFailure, TheDialogsOwnBarFailsWithTheSystemsCode)
 {
-    shell->FailBar(2);
+    CShellCalls::RefuseBar(2);
     ExpectThrown(static_cast<HRESULT>(0x80070005));
 }
 
 TEST_F(WizardFailure, ANegativeCodeIsCarriedAsItIs)
 {
-    shell->FailBar(2, 0x80004005);
+    CShellCalls::RefuseBar(2, 0x80004005);
     ExpectThrown(static_cast<HRESULT>(0x80004005));
 }
 
 TEST_F(WizardFailure, AFailureWritesNothing)
 {
     registry.CreateKey(kTypeKey);
-    shell->FailBar(2);
+    CShellCalls::RefuseBar(2);
     ExpectThrown(static_cast<HRESULT>(0x80070005));
     EXPECT_FALSE(registry.ValueExists(kTypeKey, L"Type"));
 }
 
-TEST_F(WizardFailure, AsksForTheFullScreenWithoutTheInputPanel)
+TEST_F(WizardFailure, AsksForTheFullScreenWithoutTheInputPanelAndForABarWithoutItsButton)
 {
     Open();
-    EXPECT_EQ((std::vector<DWORD>{13, 12}), shell->FullScreens());
-}
-
-TEST_F(WizardFailure, AsksForItsBarWithoutThePanelsButton)
-{
-    Open();
-    EXPECT_EQ((std::vector<std::pair<DWORD, UINT>>{{1, 0}, {0x14, 207}}), shell->Bars());
+    EXPECT_EQ(CShellCalls::OfOneDialog("bar 20 207"), CShellCalls::Asked());
 }
 
 namespace
