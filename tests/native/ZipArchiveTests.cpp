@@ -367,3 +367,40 @@ TEST_F(ZipArchiveMutation, EveryChangedByteIsHarmless)
 }
 
 } // namespace
+
+namespace
+{
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+File FileOf(const Bytes& bytes)
+{
+    File file(std::tmpfile(), std::fclose);
+    EXPECT_EQ(bytes.size(), std::fwrite(bytes.data(), 1, bytes.size(), file.get()));
+    return file;
+}
+
+// A file that was closed behind its owner's back would be noticed as freed memory.
+void ExpectStillOpen(const File& file)
+{
+    std::rewind(file.get());
+    EXPECT_NE(EOF, std::fgetc(file.get()));
+}
+
+} // namespace
+
+TEST(ZipFile, StaysItsOwnersWhenItIsNoArchive)
+{
+    const File file = FileOf(Bytes(100, 'x'));
+    EXPECT_EQ(nullptr, skin::OpenZip(file.get()));
+    ExpectStillOpen(file);
+}
+
+TEST(ZipFile, StaysItsOwnersWhenItsArchiveIsClosed)
+{
+    const File file = FileOf(Archive({zip::Stored("a", "text")}));
+    const unzFile archive = skin::OpenZip(file.get());
+    EXPECT_EQ(4u, skin::ZipMemberSize(archive, "a"));
+    unzClose(archive);
+    ExpectStillOpen(file);
+}

@@ -35,6 +35,13 @@ LSTATUS WINAPI DeleteUnlessRefused(HKEY parent, const wchar_t* name)
     return g_refused.count(name) != 0 ? ERROR_ACCESS_DENIED : RegDeleteKeyW(parent, name);
 }
 
+LSTATUS WINAPI OpenUnlessRefused(HKEY parent, const wchar_t* name, DWORD options, REGSAM access,
+                                 HKEY* key)
+{
+    return g_refused.count(name) != 0 ? ERROR_NO_SYSTEM_RESOURCES
+                                      : RegOpenKeyExW(parent, name, options, access, key);
+}
+
 class NowDeleting : public NowFixture
 {
 protected:
@@ -251,4 +258,17 @@ TEST_F(NowDeleting, ASubkeyThatCanNotBeDeletedStopsItsKeyAlone)
     EXPECT_TRUE(registry.Exists(L"B\\Untouched"));
     EXPECT_FALSE(registry.Exists(L"A"));
     EXPECT_FALSE(registry.Exists(L"C"));
+}
+
+TEST_F(NowDeleting, ARegistrationThatCanNotBeOpenedIsHiddenAndStays)
+{
+    registry.Add(L"A", L"a", kEmail);
+    registry.Add(L"B", L"b", kEmail);
+    g_refused = {L"B"};
+    const CImportPatch open(module->Handle(), "advapi32.dll", "RegOpenKeyExW", OpenUnlessRefused);
+    Open();
+    EXPECT_EQ((Labels{L"a (email)"}), AllLabels());
+    Done();
+    EXPECT_TRUE(g_deleted.empty());
+    EXPECT_TRUE(registry.Exists(L"B"));
 }
