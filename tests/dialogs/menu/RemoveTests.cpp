@@ -1,4 +1,4 @@
-// Remove, and the commands that are still to come.
+// Remove: what goes, what refuses, and what the other items keep.
 #include "tests/dialogs/menu/support/EditorFixture.h"
 
 namespace
