@@ -1,10 +1,10 @@
 // Every call that the exports make of the system fails once, and then for ever: only the stated
 // results leave, nothing leaks, the owner is enabled, nothing is written that is not meant.
 #include "tests/faults/Sweep.h"
+#include "tests/support/LongRun.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <tuple>
 
 namespace
@@ -16,7 +16,7 @@ constexpr const char* kExports[] = {"CustomizeMenu", "CustomizeHome", "Customize
 // Points per function in the quick run; the long one takes all.
 unsigned MostPerFunction(FaultKind kind)
 {
-    if (std::getenv("TAV_LONG"))
+    if (IsLongRun())
         return ~0u;
     return kind == FaultKind::System ? 1 : 4;
 }

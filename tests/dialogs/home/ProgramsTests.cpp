@@ -3,10 +3,10 @@
 #include "tests/dialogs/home/HomeFixture.h"
 #include "tests/support/ImportPatch.h"
 #include "tests/support/Wait.h"
+#include "tests/support/LongRun.h"
 
 #include <algorithm>
 #include <atomic>
-#include <cstdlib>
 #include <cstring>
 
 namespace
@@ -176,8 +176,7 @@ constexpr int kFilesPerFolder = 100;
 
 int ManyFolders()
 {
-    const char* const isLong = std::getenv("TAV_LONG");
-    return isLong && *isLong ? 1000 : 10;
+    return IsLongRun() ? 1000 : 10;
 }
 
 decltype(&SendMessageTimeoutW) g_send;

@@ -3,9 +3,9 @@
 #include "platform/os/Registry.h"
 #include "tests/dialogs/now/NowFixture.h"
 #include "tests/support/ImportPatch.h"
+#include "tests/support/LongRun.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <cstring>
 
 namespace
@@ -13,11 +13,6 @@ namespace
 
 // Ten thousand in the long run. A registry call takes six times longer when the server happens to
 // sit on another core, which would decide the test instead of the dialog.
-bool IsLongRun()
-{
-    const char* const isLong = std::getenv("TAV_LONG");
-    return isLong && *isLong;
-}
 const int kMany = IsLongRun() ? 10000 : 2000;
 
 class NowVolume : public NowFixture
@@ -223,8 +218,6 @@ LSTATUS WINAPI DescribeMany(HKEY key, const wchar_t* name, DWORD* reserved, DWOR
 
 TEST_F(NowVolume, Of65537PluginsTheLastOneIsSavedToTheFirstKey)
 {
-    if (!IsLongRun())
-        GTEST_SKIP() << "takes a minute; set TAV_LONG";
     constexpr DWORD kPatience = 55000;
     for (const wchar_t* const plugin : {L"First", L"Other", L"Last"})
         registry.Add(plugin, plugin, kProfile);

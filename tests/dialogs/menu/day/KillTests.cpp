@@ -5,11 +5,11 @@
 #include "tests/dialogs/menu/day/DayTrees.h"
 #include "tests/dialogs/menu/day/RegistryWrites.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/LongRun.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
 #include <numeric>
 #include <set>
@@ -239,7 +239,7 @@ private:
 std::vector<int> WritesOfCase(int number)
 {
     const int all = WritesIn(EditingDay(L""));
-    const int killings = std::getenv("TAV_LONG") ? all : kKillings;
+    const int killings = IsLongRun() ? all : kKillings;
     std::vector<int> writes;
     for (int i = number; i < killings; i += kCases)
         writes.push_back(1 + i * (all - 1) / (killings - 1));
