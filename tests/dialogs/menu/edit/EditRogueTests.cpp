@@ -1,5 +1,6 @@
 // A launcher-menu process that answers nonsense, dies or hangs leaves the dialogs usable.
 #include "tests/dialogs/menu/edit/EditFixture.h"
+#include "tests/support/Wait.h"
 
 namespace
 {
@@ -32,6 +33,18 @@ protected:
         Open();
         process->Behave(ImageProcessManner::Hang);
     }
+    // Opens Edit Item and waits until it has painted its preview: a message that is posted when the
+    // process has been asked is handled only after that.
+    void OpenPaintedEdit(const std::wstring& path)
+    {
+        OpenEdit(path);
+        EXPECT_TRUE(WaitUntil([this] { return !process->Requests().empty(); }));
+        const HWND name = Control(kNameId);
+        const int length = GetWindowTextLengthW(name);
+        PostMessageW(name, WM_CHAR, L'x', 0);
+        EXPECT_TRUE(WaitUntil([=] { return GetWindowTextLengthW(name) > length; }));
+    }
+
     // Checks that `work` waits for the process once and not a second time.
     template <class Work>
     static void ExpectOneWait(Work work)
@@ -100,14 +113,14 @@ TEST_F(EditRogue, AProcessThatDiesForTheListLeavesTheFilesIcon)
 
 TEST_F(EditVolume, AProcessThatHangsForThePreviewIsWaitedForOnce)
 {
-    ExpectOneWait([this] { OpenEdit(L"My Menu"); });
+    ExpectOneWait([this] { OpenPaintedEdit(L"My Menu"); });
     EXPECT_TRUE(IsPreviewWhite());
     EXPECT_EQ(1u, process->Requests().size());
 }
 
 TEST_F(EditVolume, AProcessThatHangsForAFilesImageIsWaitedForOnce)
 {
-    ExpectOneWait([this] { OpenEdit(L"Programs/Maps"); });
+    ExpectOneWait([this] { OpenPaintedEdit(L"Programs/Maps"); });
     EXPECT_EQ(1u, process->Requests().size());
 }
 
