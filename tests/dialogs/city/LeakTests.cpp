@@ -9,7 +9,7 @@ namespace
 {
 
 constexpr int kWarmUp = 10;
-constexpr int kRounds = 100;
+constexpr int kRounds = 200;
 
 UINT g_command;
 
