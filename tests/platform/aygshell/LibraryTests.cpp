@@ -111,12 +111,18 @@ TEST(Library, TwoHundredDialogsLeaveNothingBehind)
     SwitchPanel(SIPF_ON);
     SwitchPanel(SIPF_OFF);
     UseOften(20);
-    const ResourceCounts settled = CountWhenQuiet();
-    UseOften(200);
-    const ResourceCounts after = CountWhenQuiet();
-    EXPECT_TRUE(SameObjects(after, settled)) << "before: " << settled << "\nafter: " << after;
+    // What the system caches on first use grows once; a leak grows each time.
+    ResourceCounts before;
+    ResourceCounts after = CountWhenQuiet();
+    for (int attempt = 0; attempt == 0 || (attempt < 3 && !SameObjects(after, before)); ++attempt)
+    {
+        before = after;
+        UseOften(200);
+        after = CountWhenQuiet();
+    }
+    EXPECT_TRUE(SameObjects(after, before)) << "before: " << before << "\nafter: " << after;
     // The heap breathes with the system's own caches.
-    EXPECT_LT(after.heapBytes, settled.heapBytes + 20000);
+    EXPECT_LT(after.heapBytes, before.heapBytes + 20000);
 }
 
 TEST(Library, EveryHookGoesWithItsBar)
