@@ -34,7 +34,9 @@ int DialogsOfThisThread()
 
 bool IsStatedCode(HRESULT code, const FaultPoint& point)
 {
+    // A control that isn't found can't be subclassed, which the system puts in its own words.
     return code == kTavOutOfMemory || code == kTavBroken || code == kTavInvalidArgument ||
+           code == HResultOfError(ERROR_INVALID_WINDOW_HANDLE) ||
            code == HResultOfError(point.Function().error);
 }
 

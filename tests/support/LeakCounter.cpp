@@ -2,6 +2,8 @@
 
 #include "tests/support/Wait.h"
 
+#include <gtest/gtest.h>
+
 #include <winternl.h>
 
 #include <cstdint>
@@ -166,6 +168,20 @@ ResourceCounts CountUntil(const ResourceCounts& expected)
     ResourceCounts counts;
     WaitUntil([&] { return (counts = CountResources()) == expected; }, 3000);
     return counts;
+}
+
+void ExpectNothingLeftBy(const std::function<void()>& work)
+{
+    constexpr int kAttempts = 3;
+    ResourceCounts before;
+    ResourceCounts after = CountResources();
+    for (int i = 0; i < kAttempts && !(i > 0 && after == before); ++i)
+    {
+        before = after;
+        work();
+        after = CountUntil(before);
+    }
+    EXPECT_EQ(before, after);
 }
 
 bool operator==(const ResourceCounts& left, const ResourceCounts& right)

@@ -5,6 +5,7 @@
 #include "platform/Win.h"
 
 #include <cstddef>
+#include <functional>
 #include <iosfwd>
 
 // What a process holds at one moment. Two equal counts, taken before and after many repetitions of
@@ -25,6 +26,10 @@ ResourceCounts CountResources();
 // Counts again and again until the numbers are the expected ones, at most for three seconds: short-
 // lived threads of the shell's announcements may still be on their way out. Returns the last count.
 ResourceCounts CountUntil(const ResourceCounts& expected);
+
+// Checks that `work` leaves nothing behind; it does the same thing many times. What the system
+// caches on first use grows once, a leak grows each time: growth is looked at again.
+void ExpectNothingLeftBy(const std::function<void()>& work);
 
 bool operator==(const ResourceCounts& left, const ResourceCounts& right);
 std::ostream& operator<<(std::ostream& stream, const ResourceCounts& counts);

@@ -62,10 +62,12 @@ protected:
         const BOOL expected = command == IDOK;
         for (int i = 0; i < kWarmUp; ++i)
             ASSERT_EQ(expected, Open());
-        const ResourceCounts before = CountResources();
-        for (int i = 0; i < kRounds; ++i)
-            ASSERT_EQ(expected, Open());
-        EXPECT_EQ(before, CountUntil(before));
+        ExpectNothingLeftBy(
+            [&]
+            {
+                for (int i = 0; i < kRounds; ++i)
+                    ASSERT_EQ(expected, Open());
+            });
         EXPECT_GE(g_seen, kWarmUp + kRounds);
     }
 

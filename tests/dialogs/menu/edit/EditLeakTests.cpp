@@ -121,9 +121,7 @@ protected:
     {
         Run(script, kWarmUp, isChoice);
         Run(script, kWarmUp, isChoice);
-        const ResourceCounts before = CountResources();
-        Run(script, kRounds, isChoice);
-        EXPECT_EQ(before, CountUntil(before));
+        ExpectNothingLeftBy([&] { Run(script, kRounds, isChoice); });
     }
 
     // The same for a dialog whose opening fails, with an editor for each.
@@ -138,9 +136,7 @@ protected:
             }
         };
         fail(kWarmUp);
-        const ResourceCounts before = CountResources();
-        fail(kFailures);
-        EXPECT_EQ(before, CountUntil(before));
+        ExpectNothingLeftBy([&] { fail(kFailures); });
     }
 
     CMenuSandbox registry;
@@ -195,7 +191,7 @@ TEST_F(EditLeaks, FailingToOpenChooseIconFiftyTimes)
     const CImportPatch patch(module.Handle(), "aygshell.dll", "SHCreateMenuBar", RefuseSixthBar);
     g_bars = 0;
     ExpectNothingLeftOfFailures({L"My Menu", CommandEdit, IDCANCEL, 1, 1});
-    EXPECT_EQ(6 * (kWarmUp + kFailures), g_bars);
+    EXPECT_GE(g_bars, 6 * (kWarmUp + kFailures));
 }
 
 TEST_F(EditLeaks, FailingToDrawThePreviewFiftyTimes)

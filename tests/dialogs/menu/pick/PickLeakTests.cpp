@@ -71,10 +71,12 @@ protected:
         Run(kWarmUp);
         forget();
         g_pickersSeen = 0;
-        const ResourceCounts before = CountResources();
-        Run(kRounds);
-        forget();
-        EXPECT_EQ(before, CountUntil(before));
+        ExpectNothingLeftBy(
+            [&]
+            {
+                Run(kRounds);
+                forget();
+            });
         EXPECT_GE(g_pickersSeen, kRounds);
     }
 
