@@ -8,7 +8,7 @@ namespace
 {
 
 constexpr int kWarmUp = 10;
-constexpr int kRounds = 200;
+constexpr int kRounds = 100;
 
 UINT g_command;
 
@@ -87,37 +87,37 @@ BOOL WINAPI RefuseSecondBar(void*)
 
 } // namespace
 
-TEST_F(CityLeaks, CancellingTwoHundredTimes)
+TEST_F(CityLeaks, CancellingAHundredTimes)
 {
     ExpectNothingLeft([this] { EXPECT_FALSE(Open()); });
 }
 
-TEST_F(CityLeaks, ChoosingTwoHundredTimes)
+TEST_F(CityLeaks, ChoosingAHundredTimes)
 {
     g_command = IDOK;
     ExpectNothingLeft([this] { EXPECT_TRUE(Open()); });
 }
 
-TEST_F(CityLeaks, ChoosingFromAnArchiveTwoHundredTimes)
+TEST_F(CityLeaks, ChoosingFromAnArchiveAHundredTimes)
 {
     folder.InstallAsArchive(SampleCities().Build(), true);
     g_command = IDOK;
     ExpectNothingLeft([this] { EXPECT_TRUE(Open()); });
 }
 
-TEST_F(CityLeaks, OpeningWithoutADatabaseTwoHundredTimes)
+TEST_F(CityLeaks, OpeningWithoutADatabaseAHundredTimes)
 {
     folder.Uninstall();
     ExpectNothingLeft([this] { EXPECT_FALSE(Open()); });
 }
 
-TEST_F(CityLeaks, FailingToOpenTwoHundredTimes)
+TEST_F(CityLeaks, FailingToOpenAHundredTimes)
 {
     const CImportPatch patch(Module(), "aygshell.dll", "SHCreateMenuBar", RefuseSecondBar);
     ExpectNothingLeft([this] { EXPECT_THROW(Open(), CTavException); });
 }
 
-TEST_F(CityLeaks, MeetingABrokenCityTwoHundredTimes)
+TEST_F(CityLeaks, MeetingABrokenCityAHundredTimes)
 {
     Bytes image = SampleCities().Build();
     SetField(image, PositionOf(image, 0, FieldArea), 99);
