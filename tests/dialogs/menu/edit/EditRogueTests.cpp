@@ -62,7 +62,7 @@ protected:
 TEST_F(EditRogue, WithoutTheProcessThePreviewOfANumberIsWhite)
 {
     OpenEdit(L"My Menu");
-    EXPECT_TRUE(IsPreviewWhite());
+    EXPECT_TRUE(WaitUntil([this] { return IsPreviewWhite(); }));
     ExpectUsable();
 }
 
@@ -70,7 +70,7 @@ TEST_F(EditRogue, AProcessThatDrawsNothingLeavesThePreviewWhite)
 {
     StartRogue(0);
     OpenEdit(L"My Menu");
-    EXPECT_TRUE(IsPreviewWhite());
+    EXPECT_TRUE(WaitUntil([this] { return IsPreviewWhite(); }));
     ExpectUsable();
 }
 
@@ -94,7 +94,7 @@ TEST_F(EditRogue, AProcessThatDiesForThePreviewLeavesItWhite)
     StartProcess();
     process->Behave(ImageProcessManner::Die);
     OpenEdit(L"My Menu");
-    EXPECT_TRUE(IsPreviewWhite());
+    EXPECT_TRUE(WaitUntil([this] { return IsPreviewWhite(); }));
     ExpectUsable();
 }
 
@@ -114,7 +114,7 @@ TEST_F(EditRogue, AProcessThatDiesForTheListLeavesTheFilesIcon)
 TEST_F(EditVolume, AProcessThatHangsForThePreviewIsWaitedForOnce)
 {
     ExpectOneWait([this] { OpenPaintedEdit(L"My Menu"); });
-    EXPECT_TRUE(IsPreviewWhite());
+    EXPECT_TRUE(WaitUntil([this] { return IsPreviewWhite(); }));
     EXPECT_EQ(1u, process->Requests().size());
 }
 

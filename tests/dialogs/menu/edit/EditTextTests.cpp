@@ -1,5 +1,6 @@
 // Names of any length and writing, translations, and texts and messages from outside.
 #include "tests/dialogs/menu/edit/EditFixture.h"
+#include "tests/support/Wait.h"
 #include "tests/support/FaultCounter.h"
 #include "tests/support/TranslationFixture.h"
 
@@ -81,7 +82,7 @@ TEST_F(EditText, ALongImagePathIsDrawnHereWithoutAsking)
                      path);
     StartProcess(5, true);
     OpenEdit(L"Programs/Maps");
-    EXPECT_TRUE(IsPreviewWhite());
+    EXPECT_TRUE(WaitUntil([this] { return IsPreviewWhite(); }));
     EXPECT_TRUE(process->Requests().empty());
     OpenChoice();
     EXPECT_EQ(6, Count());

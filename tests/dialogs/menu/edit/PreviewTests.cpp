@@ -1,6 +1,7 @@
 // The preview of the icon in the Edit Item dialogs: what it shows, what the launcher-menu process
 // is asked for it, and what a change of the icon does to it.
 #include "tests/dialogs/menu/edit/EditFixture.h"
+#include "tests/support/Wait.h"
 #include "tests/support/Screen.h"
 
 namespace
@@ -127,7 +128,7 @@ TEST_F(Preview, DrawsAFileThatTheProcessCannot)
 TEST_F(Preview, OfAMissingFileIsWhite)
 {
     OpenLink(0, L"\\nowhere\\at all.exe");
-    EXPECT_TRUE(IsPreviewWhite());
+    EXPECT_TRUE(WaitUntil([this] { return IsPreviewWhite(); }));
 }
 
 TEST_F(Preview, AsksForAnyNumberThatTheRegistryHas)
