@@ -1,9 +1,6 @@
 #include "device/CityReport.h"
 
 #include <cstring>
-#include <optional>
-
-#include "include/TavLumenarCityDetails.h"
 
 namespace report
 {
@@ -23,16 +20,6 @@ std::wstring TextOf(const Unit* units, size_t size)
     for (size_t i = 0; i < size && units[i] != 0; ++i)
         text += units[i] < L' ' ? L'?' : static_cast<wchar_t>(units[i]);
     return text;
-}
-
-// The details, when the record has some of a layout that is known here.
-std::optional<CITYDETAILS> DetailsOf(const CITYINFO& city)
-{
-    CITYDETAILS details;
-    memcpy(&details, city.details, sizeof(details));
-    if (city.hasDetails != 1 || details.version != TAVLUMENAR_CITY_DETAILS_VERSION)
-        return std::nullopt;
-    return details;
 }
 
 template <size_t size>
@@ -84,7 +71,7 @@ std::wstring DetailsInWords(const CITYDETAILS& details)
                                    ? L"unknown"
                                    : Grouped(details.population)) +
            Line(L"country", OrUnknown(FieldText(details.country))) +
-           Line(L"time zone", OrUnknown(FieldText(details.timeZone)));
+           Line(L"time zone", OrUnknown(TimeZoneOf(details)));
 }
 
 std::wstring DetailsNote(const CITYINFO& city)
@@ -114,6 +101,20 @@ std::wstring DescribeConfirmed(const CITYINFO& before, const CITYINFO& after)
 }
 
 } // namespace
+
+std::optional<CITYDETAILS> DetailsOf(const CITYINFO& city)
+{
+    CITYDETAILS details;
+    memcpy(&details, city.details, sizeof(details));
+    if (city.hasDetails != 1 || details.version != TAVLUMENAR_CITY_DETAILS_VERSION)
+        return std::nullopt;
+    return details;
+}
+
+std::wstring TimeZoneOf(const CITYDETAILS& details)
+{
+    return FieldText(details.timeZone);
+}
 
 std::wstring CityPlace(const CITYINFO& city)
 {

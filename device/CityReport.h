@@ -4,12 +4,20 @@
 
 #include "platform/Win.h"
 
+#include <optional>
 #include <string>
 
+#include "include/TavLumenarCityDetails.h"
 #include "include/TavLumenarDialogs.h"
 
 namespace report
 {
+
+// The record's details; nothing when it has none, or has some of a layout that isn't known here.
+std::optional<CITYDETAILS> DetailsOf(const CITYINFO& city);
+
+// The zone's name in the details; empty when it is unknown.
+std::wstring TimeZoneOf(const CITYDETAILS& details);
 
 // "Lisbon, PT"; the name alone when the record doesn't say the country, empty without a city.
 std::wstring CityPlace(const CITYINFO& city);

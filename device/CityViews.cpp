@@ -11,8 +11,9 @@
 namespace
 {
 
-// Part of the names of cities all over the world.
-constexpr wchar_t kTyped[] = L"LON";
+// Part of the names of cities all over the world, and the name of one.
+constexpr const wchar_t* kTyped = L"LON";
+constexpr const wchar_t* kCity = L"LISBON";
 
 // Where the input panel begins on the screen; nothing while it is down.
 std::optional<int> PanelTop()
@@ -60,14 +61,24 @@ bool LowerPanel(HWND dialog, HWND list)
     return waiting::Until([&] { return !PanelTop() && BottomOf(list) > bottom; });
 }
 
-bool TypeName(HWND search, HWND list)
+bool TypeName(HWND search, HWND list, const wchar_t* name)
 {
     const LRESULT before = CityCount(list);
-    for (const wchar_t* letter = kTyped; *letter; ++letter)
+    for (const wchar_t* letter = name; *letter; ++letter)
         stylus::Key(static_cast<WORD>(*letter));
     return waiting::Until(
-        [&]
-        { return GetWindowTextLengthW(search) == lstrlenW(kTyped) && CityCount(list) < before; });
+        [&] { return GetWindowTextLengthW(search) == lstrlenW(name) && CityCount(list) < before; });
+}
+
+// From the search box into the list.
+bool SelectFirst(HWND list)
+{
+    stylus::Key(VK_TAB);
+    stylus::Key(VK_DOWN);
+    return waiting::Until(
+        [&] {
+            return SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) == 0;
+        });
 }
 
 } // namespace
@@ -85,10 +96,14 @@ std::wstring BringUpCityView(HWND dialog, const std::wstring& view)
         return L"the input panel did not come up";
     if (view == L"select-city-panel")
         return {};
-    if (view == L"select-city-search" && !TypeName(search, list))
+    const bool isChosen = view == kSelectCityChosen;
+    if ((view == L"select-city-search" && !TypeName(search, list, kTyped)) ||
+        (isChosen && !TypeName(search, list, kCity)))
         return L"typing did not narrow the list";
     if (!LowerPanel(dialog, list))
         return L"the input panel did not go down";
+    if (isChosen && !SelectFirst(list))
+        return L"the city was not selected";
     waiting::ForThreadOf(dialog);
     return {};
 }

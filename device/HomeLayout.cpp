@@ -10,94 +10,89 @@ namespace
 // Logical pixels.
 constexpr int kDateHeight = 26;
 constexpr int kNowLinkWidth = 64;
-constexpr int kStripHeight = 56;
-constexpr int kStripCellWidth = 58;
-constexpr int kEntryHeight = 34;
-constexpr int kTitleHeight = 24;
-constexpr int kGridCellWidth = 60;
-constexpr int kGridCellHeight = 60;
-constexpr int kListCellHeight = 26;
+constexpr int kCityHeight = 34;
+// In one line, on a screen that is wider than high.
+constexpr int kLowCityHeight = 20;
+constexpr int kHeadingHeight = 14;
+constexpr int kSlotWidth = 58;
+constexpr int kSlotHeight = 54;
+// Rows share what is left up to this height.
+constexpr int kHighestSlot = 64;
 
-struct PageShape
+struct Shape
 {
     int Columns;
     int Rows;
-    int CellWidth;
-    int CellHeight;
-    int Top;
+    int SlotHeight;
 };
 
-PageShape ShapeOf(const RECT& client, int dpi, bool grid)
+int CityHeightOf(const RECT& client)
 {
-    PageShape shape;
+    const bool isWide = client.right - client.left > client.bottom - client.top;
+    return isWide ? kLowCityHeight : kCityHeight;
+}
+
+Shape ShapeOf(const RECT& client, int dpi)
+{
     const int width = client.right - client.left;
-    shape.Top = client.top + ScaleToDpi(kTitleHeight, dpi);
-    shape.Columns = grid ? std::max(1, width / ScaleToDpi(kGridCellWidth, dpi)) : 1;
-    shape.CellWidth = width / shape.Columns;
-    shape.CellHeight = ScaleToDpi(grid ? kGridCellHeight : kListCellHeight, dpi);
-    const int room = static_cast<int>(client.bottom) - shape.Top;
-    shape.Rows = std::max(1, room / shape.CellHeight);
+    const int room = client.bottom - client.top -
+                     ScaleToDpi(kDateHeight + CityHeightOf(client) + 2 * kHeadingHeight, dpi);
+    Shape shape;
+    shape.Columns = std::max(1, width / ScaleToDpi(kSlotWidth, dpi));
+    shape.Rows = std::max(1, room / ScaleToDpi(kSlotHeight, dpi));
+    shape.SlotHeight = std::max(ScaleToDpi(kSlotHeight, dpi),
+                                std::min(ScaleToDpi(kHighestSlot, dpi), room / shape.Rows));
     return shape;
+}
+
+int RowsOf(int slots, int columns)
+{
+    return (slots + columns - 1) / columns;
+}
+
+// Puts a heading and its slots at `top`, which it moves on.
+void AddBand(const RECT& client, int dpi, int slots, RECT& heading, std::vector<RECT>& places,
+             LONG& top)
+{
+    heading = {};
+    if (slots == 0)
+        return;
+    const Shape shape = ShapeOf(client, dpi);
+    const int width = client.right - client.left;
+    heading = {client.left, top, client.right, top + ScaleToDpi(kHeadingHeight, dpi)};
+    for (int i = 0; i < slots; ++i)
+    {
+        const int column = i % shape.Columns;
+        const LONG y = heading.bottom + i / shape.Columns * shape.SlotHeight;
+        places.push_back({client.left + width * column / shape.Columns, y,
+                          client.left + width * (column + 1) / shape.Columns,
+                          y + shape.SlotHeight});
+    }
+    top = heading.bottom + RowsOf(slots, shape.Columns) * shape.SlotHeight;
 }
 
 } // namespace
 
-HomeLayout LayOutHome(const RECT& client, int dpi, int entryCount)
+HomeLayout LayOutHome(const RECT& client, int dpi, int pinned, int slots)
 {
     HomeLayout layout;
-    const int width = client.right - client.left;
     layout.Date = {client.left, client.top, client.right,
                    client.top + ScaleToDpi(kDateHeight, dpi)};
     layout.NowLink = layout.Date;
     layout.NowLink.left = layout.Date.right - ScaleToDpi(kNowLinkWidth, dpi);
-    const int stripBottom = layout.Date.bottom + ScaleToDpi(kStripHeight, dpi);
-    const int cells = std::max(1, width / ScaleToDpi(kStripCellWidth, dpi));
-    for (int i = 0; i < cells; ++i)
-        layout.Strip.push_back({client.left + width * i / cells, layout.Date.bottom,
-                                client.left + width * (i + 1) / cells, stripBottom});
-    layout.StripLine = {client.left, stripBottom, client.right, stripBottom + ScaleToDpi(1, dpi)};
-    // A wide screen is too low for one column of entries.
-    const int columns = width > client.bottom - client.top ? 2 : 1;
-    const int top = layout.StripLine.bottom + ScaleToDpi(2, dpi);
-    const int height = ScaleToDpi(kEntryHeight, dpi);
-    for (int i = 0; i < entryCount; ++i)
-    {
-        const int column = i % columns;
-        const int y = top + i / columns * height;
-        layout.Entries.push_back({client.left + width * column / columns, y,
-                                  client.left + width * (column + 1) / columns, y + height});
-    }
+    layout.City = {client.left, layout.Date.bottom, client.right,
+                   layout.Date.bottom + ScaleToDpi(CityHeightOf(client), dpi)};
+    LONG top = layout.City.bottom;
+    AddBand(client, dpi, pinned, layout.PinnedHeading, layout.Slots, top);
+    AddBand(client, dpi, slots - pinned, layout.MostUsedHeading, layout.Slots, top);
     return layout;
 }
 
-MenuLayout LayOutMenu(const RECT& client, int dpi, bool grid, int itemCount, int first)
+int SlotsThatFit(const RECT& client, int dpi, int pinned, int entries)
 {
-    MenuLayout layout;
-    layout.Title = {client.left, client.top, client.right,
-                    client.top + ScaleToDpi(kTitleHeight, dpi)};
-    const PageShape shape = ShapeOf(client, dpi, grid);
-    layout.Columns = shape.Columns;
-    const int cells = std::min(itemCount - first, shape.Columns * shape.Rows);
-    for (int i = 0; i < cells; ++i)
-    {
-        const int x = client.left + i % shape.Columns * shape.CellWidth;
-        const int y = shape.Top + i / shape.Columns * shape.CellHeight;
-        layout.Cells.push_back({x, y, x + shape.CellWidth, y + shape.CellHeight});
-    }
-    return layout;
-}
-
-int ScrollToShow(int selected, int first, int columns, int cellsPerPage)
-{
-    if (selected < first)
-        return selected / columns * columns;
-    while (selected >= first + cellsPerPage)
-        first += columns;
-    return first;
-}
-
-int CellsPerPage(const RECT& client, int dpi, bool grid)
-{
-    const PageShape shape = ShapeOf(client, dpi, grid);
-    return shape.Columns * shape.Rows;
+    const Shape shape = ShapeOf(client, dpi);
+    const int pinnedRows = std::min(shape.Rows, RowsOf(pinned, shape.Columns));
+    const int pinnedSlots = std::min(pinned, pinnedRows * shape.Columns);
+    const int rest = pinnedSlots < pinned ? 0 : (shape.Rows - pinnedRows) * shape.Columns;
+    return std::min(entries, pinnedSlots + rest);
 }

@@ -4,61 +4,62 @@
 
 #include <algorithm>
 
+#include "device/Clock.h"
 #include "device/Failure.h"
-#include "device/HomeLayout.h"
+#include "device/Launching.h"
 #include "device/Painting.h"
 #include "device/Texts.h"
 #include "device/TopBar.h"
+#include "device/Usage.h"
 #include "device/resource.h"
-#include "frame/Resolution.h"
-#include "ui/Scale.h"
 
 namespace
 {
 
-// Where the next entry in reading order is, in steps of the selection.
-int StepOf(WPARAM key, int columns)
+constexpr const wchar_t* kTitle = L"Tav Lumenar";
+
+constexpr UINT_PTR kClockTimer = 1;
+constexpr UINT kClockPeriod = 1000;
+
+POINT PointOf(LPARAM lparam)
 {
-    switch (key)
-    {
-    case VK_LEFT:
-        return -1;
-    case VK_RIGHT:
-        return 1;
-    case VK_UP:
-        return -columns;
-    case VK_DOWN:
-        return columns;
-    default:
-        return 0;
-    }
+    return {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
 }
 
-// How many areas stand beside each other in the first row.
-int ColumnsOf(const std::vector<RECT>& areas)
+// Set for the length of a scope.
+class CBusy
 {
-    int columns = 0;
-    while (columns < static_cast<int>(areas.size()) &&
-           areas[static_cast<size_t>(columns)].top == areas[0].top)
-        ++columns;
-    return std::max(1, columns);
-}
+public:
+    explicit CBusy(bool& flag) : m_flag(flag), m_before(flag) { m_flag = true; }
+    ~CBusy() { m_flag = m_before; }
+    CBusy(const CBusy&) = delete;
+    CBusy& operator=(const CBusy&) = delete;
+
+private:
+    bool& m_flag;
+    bool m_before;
+};
 
 } // namespace
 
 CHomeScreen::CHomeScreen(const CNowScreen& now)
-    : m_now(now), m_bold(painting::MakeFont(ScaleY(13), true)),
-      m_normal(painting::MakeFont(ScaleY(13), false)),
-      m_small(painting::MakeFont(ScaleY(11), false))
+    : m_now(now), m_home(*this, m_painter, m_menu), m_launcher(*this, m_painter, m_menu),
+      m_settings(*this, m_painter, m_menu), m_nowPage(*this, m_painter, now)
 {
     const RECT screen = {0, CTopBar::Height(), GetSystemMetrics(SM_CXSCREEN),
                          GetSystemMetrics(SM_CYSCREEN)};
-    if (!Create(L"TavLumenarHome", L"Tav Lumenar", 0, WS_POPUP | WS_CLIPCHILDREN, screen))
+    if (!Create(L"TavLumenarHome", kTitle, 0, WS_POPUP | WS_CLIPCHILDREN, screen))
         return;
+    // From here on they keep the window in its place.
     m_keys.Create(Window());
-    SetWindowPos(Window(), nullptr, 0, screen.top, screen.right, m_keys.Top() - screen.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-    ShowPage(Page::Home);
+    m_isReady = true;
+    SetTimer(Window(), kClockTimer, kClockPeriod, nullptr);
+    GoTo(PageId::Home);
+}
+
+CHomeScreen::~CHomeScreen()
+{
+    m_now.Hide();
 }
 
 void CHomeScreen::Show()
@@ -70,86 +71,58 @@ void CHomeScreen::Show()
 
 void CHomeScreen::Reload()
 {
+    const CBusy busy(m_isBusy);
     try
     {
         m_menu.Reload();
+        Shown().Reload();
     }
     catch (...)
     {
         failure::Show(Window(), failure::DescribeCurrent());
     }
     m_now.Refresh();
-    LoadItems();
-}
-
-void CHomeScreen::LoadItems()
-{
-    m_items = m_menu.Items();
-    m_first = 0;
-    m_selected = std::max(0, std::min(m_selected, TargetCount() - 1));
     InvalidateRect(Window(), nullptr, FALSE);
 }
 
-void CHomeScreen::ShowPage(Page page)
+CPage& CHomeScreen::Page(PageId page)
 {
-    m_page = page;
-    m_selected = 0;
-    const wchar_t* const left = page == Page::Home   ? texts::kMenu
-                                : page == Page::Menu ? texts::kOpen
-                                                     : texts::kCustomizeNow;
-    m_keys.SetTexts(texts::Translate(left),
-                    texts::Translate(page == Page::Home ? texts::kExit : texts::kBack));
-    Reload();
-    if (page != Page::Now)
+    switch (page)
     {
-        m_now.Hide();
-        return;
-    }
-    RECT area = {};
-    GetWindowRect(Window(), &area);
-    m_now.Show(area);
-}
-
-void CHomeScreen::ShowLauncher()
-{
-    ShowPage(Page::Menu);
-}
-
-void CHomeScreen::ShowNow()
-{
-    ShowPage(Page::Now);
-}
-
-RECT CHomeScreen::Client() const
-{
-    RECT area = {};
-    GetClientRect(Window(), &area);
-    return area;
-}
-
-int CHomeScreen::TargetCount() const
-{
-    switch (m_page)
-    {
-    case Page::Home:
-        return kDialogCount + 1;
-    case Page::Menu:
-        return static_cast<int>(m_items.size());
+    case PageId::Launcher:
+        return m_launcher;
+    case PageId::Settings:
+        return m_settings;
+    case PageId::Now:
+        return m_nowPage;
     default:
-        return 0;
+        return m_home;
     }
 }
 
-std::vector<RECT> CHomeScreen::TargetAreas() const
+void CHomeScreen::GoTo(PageId page)
 {
-    const int dpi = GetScreenResolution().dpiY;
-    if (m_page == Page::Home)
+    if (page != m_page)
+        Shown().OnHide();
+    m_page = page;
+    m_keys.SetTexts(texts::Translate(Shown().LeftKeyText()),
+                    texts::Translate(Shown().RightKeyText()));
+    Reload();
+    if (page == PageId::Launcher)
     {
-        HomeLayout layout = LayOutHome(Client(), dpi, kDialogCount);
-        layout.Entries.push_back(layout.NowLink);
-        return layout.Entries;
+        m_menu.GoToTop();
+        m_launcher.ShowFromBeginning();
     }
-    return LayOutMenu(Client(), dpi, m_menu.IsGrid(), TargetCount(), m_first).Cells;
+    Shown().OnShow();
+}
+
+bool CHomeScreen::ShowMenu(const std::wstring& keyPath)
+{
+    GoTo(PageId::Launcher);
+    const CMenuItemPtr item = m_menu.FindByPath(keyPath);
+    const bool isOpen = item && m_menu.Open(EntryOf(item));
+    m_launcher.ShowFromBeginning();
+    return isOpen;
 }
 
 LRESULT CHomeScreen::OnMessage(UINT message, WPARAM wparam, LPARAM lparam)
@@ -163,19 +136,29 @@ LRESULT CHomeScreen::OnMessage(UINT message, WPARAM wparam, LPARAM lparam)
         return TRUE;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        OnTap({GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)}, false);
+        Shown().OnStylusDown(PointOf(lparam));
         return 0;
     case WM_LBUTTONUP:
-        OnTap({GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)}, true);
+        Shown().OnStylusUp(PointOf(lparam));
         return 0;
     case WM_KEYDOWN:
-        OnKey(wparam);
+        Shown().OnKey(wparam);
         return 0;
     case WM_COMMAND:
-        if (LOWORD(wparam) == ID_LEFT_KEY)
-            OnLeftKey();
-        if (LOWORD(wparam) == ID_RIGHT_KEY)
-            OnRightKey();
+        OnCommand(LOWORD(wparam));
+        return 0;
+    case WM_SIZE:
+        if (m_isReady)
+            Shown().OnResize();
+        InvalidateRect(Window(), nullptr, FALSE);
+        return 0;
+    case WM_ACTIVATE:
+        // Another program may have used the lists meanwhile.
+        if (LOWORD(wparam) != WA_INACTIVE && !m_isBusy && IsWindowVisible(Window()))
+            Reload();
+        return CHostWindow::OnMessage(message, wparam, lparam);
+    case WM_TIMER:
+        OnTimer();
         return 0;
     case WM_DESTROY:
         PostQuitMessage(0);
@@ -185,133 +168,103 @@ LRESULT CHomeScreen::OnMessage(UINT message, WPARAM wparam, LPARAM lparam)
     }
 }
 
-// The stylus selects when it comes down and opens when it leaves the same target.
-void CHomeScreen::OnTap(POINT point, bool released)
+void CHomeScreen::OnCommand(UINT command)
 {
-    const std::vector<RECT> areas = TargetAreas();
-    const int first = m_page == Page::Menu ? m_first : 0;
-    const bool wasPressed = m_pressed;
-    m_pressed = false;
-    for (size_t i = 0; i < areas.size(); ++i)
-    {
-        if (!PtInRect(&areas[i], point))
-            continue;
-        const int target = first + static_cast<int>(i);
-        if (released && wasPressed && target == m_selected)
-            Activate();
-        else if (!released)
-        {
-            m_selected = target;
-            m_pressed = true;
-        }
-        InvalidateRect(Window(), nullptr, FALSE);
-        return;
-    }
+    if (command == ID_LEFT_KEY)
+        Shown().OnLeftKey();
+    if (command == ID_RIGHT_KEY)
+        Shown().OnRightKey();
 }
 
-void CHomeScreen::OnKey(WPARAM key)
+// Only the home page tells the time and the date.
+void CHomeScreen::OnTimer()
 {
-    switch (key)
-    {
-    case VK_RETURN:
-        Activate();
-        break;
-    case VK_ESCAPE:
-    case VK_BACK:
-        if (m_page != Page::Home)
-            OnRightKey();
-        break;
-    default:
-        MoveSelection(StepOf(key, ColumnsOf(TargetAreas())));
-        break;
-    }
-}
-
-void CHomeScreen::MoveSelection(int step)
-{
-    const int target = m_selected + step;
-    if (step == 0 || target < 0 || target >= TargetCount())
+    const std::wstring time = clockwork::DateText() + clockwork::TimeText();
+    if (time == m_time)
         return;
-    m_selected = target;
-    if (m_page == Page::Menu)
-    {
-        const int dpi = GetScreenResolution().dpiY;
-        const bool grid = m_menu.IsGrid();
-        const int columns = LayOutMenu(Client(), dpi, grid, TargetCount(), m_first).Columns;
-        m_first = ScrollToShow(m_selected, m_first, columns, CellsPerPage(Client(), dpi, grid));
-    }
+    m_time = time;
     InvalidateRect(Window(), nullptr, FALSE);
 }
 
-void CHomeScreen::Activate()
+void CHomeScreen::OpenDialog(const DialogEntry& dialog)
 {
-    if (m_page == Page::Menu)
-        OpenItem(m_selected);
-    else if (m_page == Page::Home && m_selected == kNowTarget)
-        ShowNow();
-    else if (m_page == Page::Home)
-        OpenDialog(m_selected);
-}
-
-void CHomeScreen::OnLeftKey()
-{
-    if (m_page == Page::Home)
-        ShowPage(Page::Menu);
-    else if (m_page == Page::Now)
-        CustomizeNowScreen();
-    else
-        Activate();
-}
-
-// The dialog comes up below the Now screen, which therefore makes room for it.
-void CHomeScreen::CustomizeNowScreen()
-{
-    m_now.Hide();
-    OpenDialog(static_cast<int>(FindDialogEntry(L"customize-now") - kDialogs));
-    ShowNow();
-}
-
-void CHomeScreen::OnRightKey()
-{
-    if (m_page == Page::Home)
     {
-        PostMessageW(Window(), WM_CLOSE, 0, 0);
-        return;
-    }
-    m_selected = 0;
-    if (m_page == Page::Menu && m_menu.Back())
-        LoadItems();
-    else
-        ShowPage(Page::Home);
-}
-
-void CHomeScreen::OpenDialog(int entry)
-{
-    const DialogEntry& dialog = kDialogs[entry];
-    try
-    {
-        dialog.Run(Window());
-    }
-    catch (...)
-    {
-        // The failed dialog may have left its owner disabled.
-        EnableWindow(Window(), TRUE);
-        failure::Show(Window(), failure::DescribeCurrent());
+        const CBusy busy(m_isBusy);
+        try
+        {
+            dialog.Run(Window());
+        }
+        catch (...)
+        {
+            // The failed dialog may have left its owner disabled.
+            EnableWindow(Window(), TRUE);
+            failure::Show(Window(), failure::DescribeCurrent());
+        }
     }
     Reload();
 }
 
-void CHomeScreen::OpenItem(int item)
+void CHomeScreen::OpenEntry(const ShellEntry& entry)
 {
-    if (item < 0 || item >= static_cast<int>(m_items.size()))
-        return;
-    const CMenuItemPtr chosen = m_items[static_cast<size_t>(item)];
-    if (m_menu.Open(chosen))
+    if (entry.IsGone)
+        Say(texts::kGone, entry.Text);
+    else if (entry.IsMenu)
+        OpenMenu(entry);
+    else
+        StartEntry(entry);
+}
+
+// From the home screen a menu is a target like any other. On the way through the launcher it isn't:
+// otherwise the home screen would fill with menus that were only passed through.
+void CHomeScreen::OpenMenu(const ShellEntry& entry)
+{
+    if (m_page != PageId::Launcher)
     {
-        m_selected = 0;
-        LoadItems();
+        Count(entry, false);
+        ShowMenu(entry.Item->KeyPath);
         return;
     }
-    MessageBoxW(Window(), texts::Translate(texts::kNoProgram, chosen->Text).c_str(), L"Tav Lumenar",
+    m_menu.CountUse(entry);
+    m_menu.Open(entry);
+    m_launcher.ShowFromBeginning();
+}
+
+// Started first: counting may have to wait for another process. What the sample device has no
+// program for counts like a program that ran.
+void CHomeScreen::StartEntry(const ShellEntry& entry)
+{
+    const launching::Result result =
+        entry.Path.empty() ? launching::Result::NoProgram : launching::Start(entry.Path);
+    Count(entry, m_page == PageId::Launcher);
+    if (result == launching::Result::NoProgram)
+        Say(texts::kNoProgram, entry.Text);
+    if (result == launching::Result::Failed)
+        Say(texts::kNotStarted, entry.Text);
+    Reload();
+}
+
+void CHomeScreen::Count(const ShellEntry& entry, bool isInLauncher)
+{
+    if (!entry.Name.empty())
+        usage::CountLaunch(entry.Name);
+    if (isInLauncher)
+        m_menu.CountUse(entry);
+}
+
+void CHomeScreen::Say(const wchar_t* text, const std::wstring& value)
+{
+    const CBusy busy(m_isBusy);
+    MessageBoxW(Window(), texts::Translate(text, value).c_str(), kTitle,
                 MB_OK | MB_ICONINFORMATION);
+}
+
+void CHomeScreen::Leave()
+{
+    PostMessageW(Window(), WM_CLOSE, 0, 0);
+}
+
+void CHomeScreen::Paint()
+{
+    const painting::CPaint paint(Window());
+    Shown().Paint(paint.Dc());
 }

@@ -1,87 +1,79 @@
-// The home screen: date, the launcher's first items, and the dialogs to open; behind the left soft
-// key the launcher menu itself, and behind a tap the Now screen, so that every customisation is
-// seen at once.
+// The shell's main window, between the top bar and the soft keys: shows one page at a time (home,
+// launcher menu, settings, Now screen) and does for the pages what leads beyond them.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <memory>
 
-#include "device/Dialogs.h"
 #include "device/HostWindow.h"
+#include "device/HomePage.h"
 #include "device/LauncherMenu.h"
+#include "device/LauncherPage.h"
+#include "device/NowPage.h"
 #include "device/NowScreen.h"
+#include "device/SettingsPage.h"
 #include "device/SoftKeys.h"
-#include "platform/Handles.h"
 
-class CHomeScreen : public CHostWindow
+class CHomeScreen : public CHostWindow, private CPageHost
 {
 public:
     // Fills the screen between the top bar and the soft keys. Shows `now`, which must live longer,
     // over itself.
     explicit CHomeScreen(const CNowScreen& now);
+    // The Now screen doesn't stay behind.
+    ~CHomeScreen() override;
 
     // Shows the window and brings it to the foreground.
     void Show();
 
-    // Reads the launcher menu anew and repaints. A failure is shown and leaves the old picture.
+    // Reads everything that is shown anew and repaints. A failure is shown and leaves the old
+    // picture.
     void Reload();
 
-    // Goes to the launcher menu, as the left soft key does.
-    void ShowLauncher();
-    // Goes to the Now screen, as its entry does.
-    void ShowNow();
+    // Goes to a page; to the launcher at its first level.
+    void GoTo(PageId page) override;
+    // Goes to the launcher with the menu of that key path open; false, at the first level, when
+    // there is none.
+    bool ShowMenu(const std::wstring& keyPath);
+
+    PageId CurrentPage() const { return m_page; }
+    CHomePage& Home() { return m_home; }
+    CLauncherPage& Launcher() { return m_launcher; }
+    CSettingsPage& Settings() { return m_settings; }
+    const CLauncherMenu& Menu() const { return m_menu; }
 
 protected:
     LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
 private:
-    enum class Page
-    {
-        Home,
-        Menu,
-        Now
-    };
+    HWND PageWindow() const override { return Window(); }
+    void OpenEntry(const ShellEntry& entry) override;
+    void OpenDialog(const DialogEntry& dialog) override;
+    void Leave() override;
 
-    // What a tap or the selection can be on, on the page that is shown.
-    int TargetCount() const;
-    std::vector<RECT> TargetAreas() const;
-    RECT Client() const;
-
-    void OnTap(POINT point, bool released);
-    void OnKey(WPARAM key);
-    void OnLeftKey();
-    void OnRightKey();
-    void MoveSelection(int step);
-    void Activate();
-    void OpenDialog(int entry);
-    void OpenItem(int item);
-    void CustomizeNowScreen();
-    void ShowPage(Page page);
-    void LoadItems();
-
+    CPage& Page(PageId page);
+    CPage& Shown() { return Page(m_page); }
+    void ReloadMenu();
+    void OnCommand(UINT command);
+    void OnTimer();
+    void OpenMenu(const ShellEntry& entry);
+    void StartEntry(const ShellEntry& entry);
+    void Count(const ShellEntry& entry, bool isInLauncher);
+    void Say(const wchar_t* text, const std::wstring& value);
     void Paint();
-    void PaintHome(HDC dc);
-    void PaintMenu(HDC dc);
-    void PaintNowLink(HDC dc, RECT area);
-    std::wstring NoteOf(const DialogEntry& dialog) const;
-    void PaintEntry(HDC dc, int entry, const RECT& area);
-    void PaintGridItem(HDC dc, const CMenuItem& item, const RECT& area, bool selected);
-    void PaintListItem(HDC dc, const CMenuItem& item, const RECT& area, bool selected);
-    void PaintIcon(HDC dc, const CMenuItem& item, const RECT& area, int size);
-
-    // What leads to the Now screen stands behind the dialogs.
-    static constexpr int kNowTarget = kDialogCount;
 
     const CNowScreen& m_now;
+    CItemPainter m_painter;
     CLauncherMenu m_menu;
-    // The items of the open menu, and of the first level for the home page's strip.
-    std::vector<CMenuItemPtr> m_items;
+    CHomePage m_home;
+    CLauncherPage m_launcher;
+    CSettingsPage m_settings;
+    CNowPage m_nowPage;
     CSoftKeys m_keys;
-    UniqueFont m_bold;
-    UniqueFont m_normal;
-    UniqueFont m_small;
-    Page m_page = Page::Home;
-    int m_selected = 0;
-    int m_first = 0;
-    bool m_pressed = false;
+    PageId m_page = PageId::Home;
+    // The time that the home page shows.
+    std::wstring m_time;
+    // Not while the window is being built.
+    bool m_isReady = false;
+    // A dialog or a message is open: its end reads everything anew.
+    bool m_isBusy = false;
 };

@@ -3,38 +3,19 @@
 #include <shellapi.h>
 
 #include <algorithm>
-#include <string>
 
-#include "device/Shortcut.h"
-#include "platform/os/Text.h"
+#include "device/ShortcutFile.h"
 
 namespace icons
 {
 namespace
 {
 
-// A shortcut is one line; anything longer isn't one.
-constexpr DWORD kLongestShortcut = 4096;
-
-bool IsShortcut(const std::wstring& path)
-{
-    return path.size() > 4 && os::EqualNoCase(path.substr(path.size() - 4), L".lnk");
-}
-
 // The icon number that a shortcut file names, 0 when it names none of ours.
 int NumberInShortcut(const wchar_t* path)
 {
-    const UniqueFile file(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr));
-    std::string bytes(kLongestShortcut, '\0');
-    DWORD length = 0;
-    if (!file || !ReadFile(file.get(), bytes.data(), kLongestShortcut, &length, nullptr))
-        return 0;
-    std::wstring text(length, L'\0');
-    text.resize(static_cast<size_t>(MultiByteToWideChar(
-        CP_ACP, 0, bytes.data(), static_cast<int>(length), text.data(), static_cast<int>(length))));
     shortcut::Shortcut found;
-    return shortcut::Parse(text, found) && !found.IconFile.empty() ? found.Icon : 0;
+    return shortcut::ReadFile(path, found) && !found.IconFile.empty() ? found.Icon : 0;
 }
 
 } // namespace
@@ -71,7 +52,7 @@ bool DrawOfFile(HDC dc, const wchar_t* path, const RECT& area, int size)
     const DWORD attributes = GetFileAttributesW(path);
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return false;
-    if (IsShortcut(path) && Draw(dc, NumberInShortcut(path), area, size))
+    if (shortcut::IsShortcut(path) && Draw(dc, NumberInShortcut(path), area, size))
         return true;
     // The system's shell wants a drive letter.
     wchar_t full[MAX_PATH];

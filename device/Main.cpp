@@ -11,14 +11,15 @@
 #include "device/Dialogs.h"
 #include "device/HomeScreen.h"
 #include "device/MenuProcessWindow.h"
+#include "device/MessageLoop.h"
 #include "device/NowScreen.h"
 #include "device/Options.h"
 #include "device/PictureDriver.h"
 #include "device/ScreenPicture.h"
 #include "device/Seed.h"
+#include "device/ShellViews.h"
 #include "device/TopBar.h"
 #include "device/WizardPictures.h"
-#include "dialogs/wizard/LayoutType.h"
 #include "frame/Localizer.h"
 
 namespace
@@ -50,6 +51,15 @@ std::wstring OwnPath()
     return std::wstring(path, length < MAX_PATH ? length : 0);
 }
 
+// A device out of a package has its data beside the program.
+std::wstring InstallFolder()
+{
+    const std::wstring program = OwnPath();
+    const std::wstring folder = program.substr(0, program.rfind(L'\\'));
+    const std::wstring cities = folder + L"\\CitiesDb.dat";
+    return GetFileAttributesW(cities.c_str()) != INVALID_FILE_ATTRIBUTES ? folder : kInstallFolder;
+}
+
 void PrepareDevice(bool fresh)
 {
     SetCurrentDirectoryW(kRootFolder);
@@ -57,7 +67,7 @@ void PrepareDevice(bool fresh)
         seed::EraseRegistry();
     if (seed::IsSeeded())
         return;
-    seed::WriteRegistry(kInstallFolder);
+    seed::WriteRegistry(InstallFolder());
     seed::WriteStartMenu(kStartMenuFolder, OwnPath());
 }
 
@@ -70,69 +80,52 @@ void Complain(const std::wstring& error)
               &written, nullptr);
 }
 
-int RunMessageLoop()
-{
-    MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0)
-    {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-    return 0;
-}
-
-// Handles what is waiting, so that the windows are painted.
-void HandleWaitingMessages()
-{
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageW(&message);
-}
-
-int TakePicture(CHomeScreen& home, const Options& options)
+int TakePicture(CHomeScreen& home, const PictureWish& wish)
 {
     HandleWaitingMessages();
-    if (const wchar_t* dialog = DialogOfView(options.Picture))
+    if (const wchar_t* dialog = DialogOfView(wish.View))
     {
-        CPictureDriver driver(GetCurrentThreadId(), options.Picture, options.PictureFile);
+        CPictureDriver driver(GetCurrentThreadId(), wish.View, wish.File);
         FindDialogEntry(dialog)->Run(home.Window());
         if (driver.Finish())
             return 0;
-        Complain(options.Picture + L": " + driver.Problem());
+        Complain(wish.View + L": " + driver.Problem());
         return 1;
     }
-    if (options.Picture == L"launcher-menu")
-        home.ShowLauncher();
-    else if (options.Picture == L"now")
-        home.ShowNow();
-    else if (options.Picture == L"now-professional")
+    if (!ShowShellView(home, wish.View))
     {
-        SaveLayoutType(LayoutType::Professional);
-        AnnounceLayoutType();
-        home.ShowNow();
-    }
-    else if (options.Picture != L"home")
+        Complain(wish.View + L": there is no such view");
         return kUsageError;
+    }
     HandleWaitingMessages();
-    if (WritePng(CopySettledScreen(), options.PictureFile))
+    if (WritePng(CopySettledScreen(), wish.File))
         return 0;
-    Complain(options.Picture + L": the file can't be written");
+    Complain(wish.View + L": the file can't be written");
     return 1;
+}
+
+// One after the other; each view finds the device as the one before it left it.
+int TakePictures(CHomeScreen& home, const std::vector<PictureWish>& wishes)
+{
+    int result = 0;
+    for (size_t i = 0; i < wishes.size() && result == 0; ++i)
+        result = TakePicture(home, wishes[i]);
+    return result;
 }
 
 int RunShell(const Options& options)
 {
     const CColourScheme colours;
     CMenuProcessWindow menuProcess;
-    if (!options.Picture.empty())
+    if (!options.Pictures.empty())
         clockwork::Freeze();
     CTopBar topBar;
     const CWorkAreaBelow workArea(CTopBar::Height());
     const CNowScreen now;
     CHomeScreen home(now);
     home.Show();
-    if (!options.Picture.empty())
-        return TakePicture(home, options);
+    if (!options.Pictures.empty())
+        return TakePictures(home, options.Pictures);
     if (!options.Dialog.empty())
     {
         HandleWaitingMessages();
@@ -158,7 +151,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     LoadTranslations();
     // Anew each time: they speak the device's language.
-    wizard::WritePictures(kInstallFolder);
+    wizard::WritePictures(InstallFolder());
     const int result = RunShell(options);
     CoUninitialize();
     return result;

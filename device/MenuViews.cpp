@@ -21,6 +21,7 @@ constexpr int kLinkPosition = 0;
 // From the open menu of the soft key to its commands.
 constexpr std::initializer_list<WORD> kToOptions = {VK_UP, VK_RETURN};
 constexpr std::initializer_list<WORD> kToEdit = {VK_UP, VK_UP, VK_UP, VK_UP, VK_RETURN};
+constexpr std::initializer_list<WORD> kToAdd = {VK_UP, VK_UP, VK_RIGHT};
 constexpr std::initializer_list<WORD> kToAddLink = {VK_UP, VK_UP, VK_RIGHT, VK_DOWN, VK_RETURN};
 constexpr std::initializer_list<WORD> kToAddFile = {VK_UP,   VK_UP,   VK_RIGHT,
                                                     VK_DOWN, VK_DOWN, VK_RETURN};
@@ -46,6 +47,17 @@ std::wstring OpenContextMenu(HWND tree, HTREEITEM node)
     return isOpen ? L"" : L"holding the stylus opened no menu";
 }
 
+// The soft key's menu and the one of things to add.
+std::wstring OpenAddMenu(HWND editor)
+{
+    const std::wstring problem = OpenSoftKeyMenu(editor);
+    if (!problem.empty())
+        return problem;
+    for (const WORD key : kToAdd)
+        stylus::Key(key);
+    return waiting::Until([] { return open::MenuCount() == 2; }) ? L"" : L"no second menu opened";
+}
+
 HWND WaitForSubDialog(HWND above)
 {
     return open::WaitForDialog(GetWindowThreadProcessId(above, nullptr), above);
@@ -63,6 +75,14 @@ std::wstring OpenWith(HWND editor, std::initializer_list<WORD> keys, HWND& opene
     return opened ? L"" : L"the command opened no dialog";
 }
 
+// The whole menu's options, most of which can't be changed.
+std::wstring OpenRootOptions(HWND editor, HWND tree)
+{
+    HWND opened = nullptr;
+    return treeinput::Select(tree, treeinput::Root(tree)) ? OpenWith(editor, kToOptions, opened)
+                                                          : L"the root can't be selected";
+}
+
 std::wstring OpenGames(HWND editor, HWND tree, const std::wstring& view)
 {
     const HTREEITEM games = treeinput::Open(tree, {kGamesPosition});
@@ -71,6 +91,8 @@ std::wstring OpenGames(HWND editor, HWND tree, const std::wstring& view)
         return L"the folder can't be opened";
     if (view == L"customize-menu-popup")
         return OpenSoftKeyMenu(editor);
+    if (view == L"customize-menu-add")
+        return OpenAddMenu(editor);
     if (view == L"customize-menu-context")
         return OpenContextMenu(tree, games);
     if (view == L"menu-options")
@@ -125,6 +147,8 @@ std::wstring BringUpMenuView(HWND editor, const std::wstring& view)
     const HWND tree = treeinput::TreeOf(editor);
     if (!tree)
         return L"there is no tree";
+    if (view == L"menu-options-root")
+        return OpenRootOptions(editor, tree);
     const bool isOfGames = view.compare(0, 14, L"customize-menu") == 0 || view == L"menu-options";
     return isOfGames ? OpenGames(editor, tree, view) : OpenEdit(editor, tree, view);
 }

@@ -1,9 +1,8 @@
 #include "device/NowPainting.h"
 
-#include <algorithm>
-
 #include "device/ColourScheme.h"
 #include "device/LauncherIcons.h"
+#include "device/NowLayout.h"
 #include "device/Painting.h"
 #include "ui/Scale.h"
 
@@ -12,11 +11,7 @@ namespace
 
 // Logical pixels.
 constexpr int kMargin = 8;
-constexpr int kRowHeight = 54;
-constexpr int kSmallestRow = 40;
 constexpr int kRowIcon = 32;
-constexpr int kCardHeight = 62;
-constexpr int kCardGap = 3;
 constexpr int kCardHead = 20;
 constexpr int kCardIcon = 16;
 constexpr int kLineHeight = 18;
@@ -31,46 +26,35 @@ public:
     {
     }
 
-    // One panel below the other, with a line between them; closer together when there are many.
-    void PaintRows(const RECT& area, const std::vector<NowPanel>& panels)
+    // One panel below the other, with a line between them.
+    void PaintRows(const RECT& area, const NowLayout& layout, const std::vector<NowPanel>& panels)
     {
         painting::FillGradient(m_dc, area, colours::kPaper, colours::kFace);
-        const int count = std::max(1, static_cast<int>(panels.size()));
-        const int height = std::max(
-            Scaled(kSmallestRow),
-            std::min(Scaled(kRowHeight), static_cast<int>(area.bottom - area.top) / count));
-        RECT row = {area.left, area.top, area.right, area.top + height};
-        for (const NowPanel& panel : panels)
-        {
-            if (row.bottom > area.bottom)
-                return;
-            PaintRow(row, panel);
-            OffsetRect(&row, 0, height);
-        }
+        for (size_t i = 0; i < layout.Panels.size(); ++i)
+            PaintRow(layout.Panels[i], panels[i + static_cast<size_t>(layout.First)]);
+        PaintScrollBar(layout);
     }
 
-    // Cards with a coloured head; two beside each other on a wide screen.
-    void PaintCards(const RECT& area, const std::vector<NowPanel>& panels)
+    // Cards with a coloured head.
+    void PaintCards(const RECT& area, const NowLayout& layout, const std::vector<NowPanel>& panels)
     {
         painting::FillGradient(m_dc, area, painting::Mix(colours::kMist, colours::kTeal, 60),
                                painting::Mix(colours::kTeal, colours::kDeepTeal, 120));
-        const int columns = area.right - area.left > area.bottom - area.top ? 2 : 1;
-        const int width = (area.right - area.left - Scaled(kCardGap)) / columns;
-        for (int i = 0; i < static_cast<int>(panels.size()); ++i)
-        {
-            const int left = area.left + Scaled(kCardGap) + i % columns * width;
-            const int top =
-                area.top + Scaled(kCardGap) + i / columns * Scaled(kCardHeight + kCardGap);
-            const RECT card = {left, top, left + width - Scaled(kCardGap),
-                               top + Scaled(kCardHeight)};
-            if (card.bottom > area.bottom)
-                return;
-            PaintCard(card, panels[static_cast<size_t>(i)]);
-        }
+        for (size_t i = 0; i < layout.Panels.size(); ++i)
+            PaintCard(layout.Panels[i], panels[i + static_cast<size_t>(layout.First)]);
+        PaintScrollBar(layout);
     }
 
 private:
     int Scaled(int length) const { return ScaleToDpi(length, m_dpi); }
+
+    void PaintScrollBar(const NowLayout& layout)
+    {
+        if (IsRectEmpty(&layout.ScrollBar))
+            return;
+        painting::Fill(m_dc, layout.ScrollBar, colours::kMist);
+        painting::Fill(m_dc, layout.Thumb, colours::kTeal);
+    }
 
     void PaintRow(const RECT& row, const NowPanel& panel)
     {
@@ -117,11 +101,13 @@ private:
 
 } // namespace
 
-void PaintNow(HDC dc, const RECT& area, int dpi, const NowContents& contents)
+void PaintNow(HDC dc, const RECT& area, int dpi, const NowContents& contents, int first)
 {
     CNowPainter painter(dc, dpi);
+    const NowLayout layout =
+        LayOutNow(area, dpi, contents.Type, static_cast<int>(contents.Panels.size()), first);
     if (contents.Type == LayoutType::Professional)
-        painter.PaintCards(area, contents.Panels);
+        painter.PaintCards(area, layout, contents.Panels);
     else
-        painter.PaintRows(area, contents.Panels);
+        painter.PaintRows(area, layout, contents.Panels);
 }

@@ -6,6 +6,6 @@
 
 #include "device/NowContents.h"
 
-// Draws the whole screen into `area`; lengths inside are logical pixels at `dpi`. Panels that don't
-// fit are left out.
-void PaintNow(HDC dc, const RECT& area, int dpi, const NowContents& contents);
+// Draws the whole screen into `area`; lengths inside are logical pixels at `dpi`. Begins with the
+// panel `first`; with a scroll bar when not all of them fit.
+void PaintNow(HDC dc, const RECT& area, int dpi, const NowContents& contents, int first = 0);

@@ -22,11 +22,25 @@ public:
     // Has it read its plug-ins and its layout anew; doesn't wait for it.
     void Refresh() const;
 
+    // Moves on by so many panels, or back; as far as there are more than fit. Doesn't wait for it.
+    void Scroll(int panels) const;
+
     // The layout that it shows at the moment.
-    LayoutType Layout() const { return m_layout; }
+    LayoutType Layout() const { return m_state.Layout; }
+    // How many panels it has, and which is the first one on the screen.
+    int PanelCount() const { return m_state.Panels; }
+    int FirstPanel() const { return m_state.First; }
+
+    // What its window tells about itself.
+    struct State
+    {
+        std::atomic<LayoutType> Layout = LayoutType::Classic;
+        std::atomic<int> Panels = 0;
+        std::atomic<int> First = 0;
+    };
 
 private:
-    std::atomic<LayoutType> m_layout = LayoutType::Classic;
+    State m_state;
     // Last: the window uses what stands above.
     CWindowThread m_thread;
 };

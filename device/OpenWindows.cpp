@@ -32,6 +32,12 @@ BOOL CALLBACK FindReadyDialog(HWND window, LPARAM parameter)
     return FALSE;
 }
 
+BOOL CALLBACK PaintOne(HWND window, LPARAM)
+{
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    return TRUE;
+}
+
 } // namespace
 
 HWND Dialog(DWORD threadId, HWND other)
@@ -56,10 +62,24 @@ HWND WaitForDialog(DWORD threadId, HWND other)
     return found;
 }
 
+void PaintAll(DWORD threadId)
+{
+    EnumThreadWindows(threadId, PaintOne, 0);
+}
+
 bool IsMenuOpen()
 {
     const HWND popup = FindWindowW(kPopupClass, nullptr);
     return popup && IsWindowVisible(popup);
+}
+
+int MenuCount()
+{
+    int count = 0;
+    HWND popup = nullptr;
+    while ((popup = FindWindowExW(nullptr, popup, kPopupClass, nullptr)) != nullptr)
+        count += IsWindowVisible(popup) ? 1 : 0;
+    return count;
 }
 
 bool WaitForMenu()

@@ -14,8 +14,14 @@ HWND Dialog(DWORD threadId, HWND other);
 // Waits until there is one that has the foreground and is ready for input; null when none came.
 HWND WaitForDialog(DWORD threadId, HWND other);
 
+// Has all windows of a thread paint what they still have to.
+void PaintAll(DWORD threadId);
+
 // Whether a pop-up menu is open.
 bool IsMenuOpen();
+
+// How many are, one over the other.
+int MenuCount();
 
 // Waits for one; false when none came.
 bool WaitForMenu();

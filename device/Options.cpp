@@ -34,8 +34,10 @@ Options ReadOptions(const std::vector<std::wstring>& arguments)
             TakeNext(arguments, i, options.Report, options.Error);
         else if (name == L"--picture")
         {
-            if (TakeNext(arguments, i, options.Picture, options.Error))
-                TakeNext(arguments, i, options.PictureFile, options.Error);
+            PictureWish wish;
+            if (TakeNext(arguments, i, wish.View, options.Error) &&
+                TakeNext(arguments, i, wish.File, options.Error))
+                options.Pictures.push_back(wish);
         }
         else
             options.Error = L"unknown option " + name;

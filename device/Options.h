@@ -4,15 +4,21 @@
 #include <string>
 #include <vector>
 
+// A view to take a picture of, and the file to write it to.
+struct PictureWish
+{
+    std::wstring View;
+    std::wstring File;
+};
+
 struct Options
 {
     // A dialog to open directly, by the name that ./run uses; empty for the home screen.
     std::wstring Dialog;
     // Where the outcome of that dialog is written.
     std::wstring Report;
-    // A view to take a picture of, and the file to write it to.
-    std::wstring Picture;
-    std::wstring PictureFile;
+    // Pictures to take instead of showing the device, in this order.
+    std::vector<PictureWish> Pictures;
     // Put the sample data on the device and leave.
     bool Seed = false;
     // Forget the device's state first.

@@ -1,5 +1,7 @@
 #include "device/Painting.h"
 
+#include "device/PaintingRecorder.h"
+
 namespace painting
 {
 
@@ -39,6 +41,7 @@ UniqueFont MakeFont(int height, bool bold)
 void Text(HDC dc, HFONT font, const std::wstring& text, RECT area, COLORREF colour, UINT format)
 {
     const CSelectObject selected(dc, font);
+    Record(dc, text, area);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, colour);
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area,

@@ -22,6 +22,7 @@ struct View
 constexpr const wchar_t* kCustomizeMenu = L"customize-menu";
 constexpr const wchar_t* kCustomizeHome = L"customize-home";
 constexpr const wchar_t* kCustomizeHomePrograms = L"customize-home-programs";
+constexpr const wchar_t* kCustomizeHomeLimit = L"customize-home-limit";
 constexpr const wchar_t* kCustomizeNow = L"customize-now";
 constexpr const wchar_t* kInstallWizard = L"install-wizard";
 constexpr const wchar_t* kSelectCity = L"select-city";
@@ -29,8 +30,10 @@ constexpr const wchar_t* kSelectCity = L"select-city";
 constexpr View kViews[] = {
     {L"customize-menu", kCustomizeMenu},
     {L"customize-menu-popup", kCustomizeMenu},
+    {L"customize-menu-add", kCustomizeMenu},
     {L"customize-menu-context", kCustomizeMenu},
     {L"menu-options", kCustomizeMenu},
+    {L"menu-options-root", kCustomizeMenu},
     {L"edit-menu", kCustomizeMenu},
     {L"edit-item", kCustomizeMenu},
     {L"choose-icon", kCustomizeMenu},
@@ -38,10 +41,12 @@ constexpr View kViews[] = {
     {L"select-link", kCustomizeMenu},
     {kCustomizeHome, kCustomizeHome},
     {kCustomizeHomePrograms, kCustomizeHome},
+    {kCustomizeHomeLimit, kCustomizeHome},
     {kCustomizeNow, kCustomizeNow},
     {kInstallWizard, kInstallWizard},
     {kSelectCity, kSelectCity},
     {L"select-city-search", kSelectCity},
+    {kSelectCityChosen, kSelectCity},
     {L"select-city-panel", kSelectCity},
     {L"select-city-no-database", kSelectCity},
 };
@@ -50,6 +55,9 @@ constexpr View kViews[] = {
 // programs, one of which is pinned.
 constexpr int kProgramsPosition = 0;
 constexpr int kOfficePosition = 5;
+
+// Milliseconds in which the message comes, if it does.
+constexpr DWORD kPatienceWithMessage = 300;
 
 } // namespace
 
@@ -95,6 +103,8 @@ std::wstring CPictureDriver::TakePicture()
     const std::wstring problem = BringUpView();
     if (!problem.empty())
         return problem;
+    // On a busy machine the screen looks settled although parts of it are still to come.
+    open::PaintAll(m_uiThread);
     return WritePng(CopySettledScreen(), m_file) ? L"" : L"the file can't be written";
 }
 
@@ -113,12 +123,34 @@ std::wstring CPictureDriver::BringUpHomeView()
 {
     const HWND tree = treeinput::TreeOf(m_dialog);
     const int folder = m_view == kCustomizeHomePrograms ? kProgramsPosition : kOfficePosition;
-    return tree && treeinput::Open(tree, {folder}) ? L"" : L"the folder can't be opened";
+    if (!tree || !treeinput::Open(tree, {folder}))
+        return L"the folder can't be opened";
+    return m_view == kCustomizeHomeLimit ? PinTooMany(tree) : L"";
+}
+
+// Checks one box after the other until the message is there.
+std::wstring CPictureDriver::PinTooMany(HWND tree)
+{
+    const HTREEITEM root = treeinput::Root(tree);
+    for (int position = 0; HTREEITEM node = treeinput::Child(tree, root, position); ++position)
+    {
+        if (treeinput::BoxOf(tree, node) != treeinput::kUnchecked)
+            continue;
+        if (!treeinput::Select(tree, node))
+            return L"an entry can't be selected";
+        stylus::Key(VK_RETURN);
+        // The box is switched at once, the message comes a little later.
+        if (waiting::Until([&] { return open::Dialog(m_uiThread, m_dialog) != nullptr; },
+                           kPatienceWithMessage))
+            return {};
+    }
+    return L"everything can be pinned";
 }
 
 // Ends menus first, then dialogs from the inside out.
 void CPictureDriver::CloseAll()
 {
+    const WPARAM command = m_view == kSelectCityChosen ? IDOK : IDCANCEL;
     waiting::Until(
         [&]
         {
@@ -129,7 +161,7 @@ void CPictureDriver::CloseAll()
             }
             const HWND dialog = open::Dialog(m_uiThread, nullptr);
             if (dialog)
-                PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+                PostMessageW(dialog, WM_COMMAND, command, 0);
             return dialog == nullptr;
         });
 }

@@ -9,7 +9,8 @@
 
 // The name of the dialog that a view belongs to; null when it is no view of a dialog. The views, by
 // the names that scripts/pictures.sh uses: "customize-home", "customize-home-programs",
-// "customize-now", "install-wizard" and those of MenuViews.h and CityViews.h.
+// "customize-home-limit" (its message), "customize-now", "install-wizard" and those of MenuViews.h
+// and CityViews.h.
 const wchar_t* DialogOfView(const std::wstring& view);
 
 class CPictureDriver
@@ -33,6 +34,7 @@ private:
     std::wstring TakePicture();
     std::wstring BringUpView();
     std::wstring BringUpHomeView();
+    std::wstring PinTooMany(HWND tree);
     void CloseAll();
 
     DWORD m_uiThread;

@@ -5,6 +5,8 @@ namespace sample
 namespace
 {
 
+// Notes and Task Manager lead to programs that every desktop system has; of the others, the sample
+// device has the shortcuts alone.
 constexpr StartMenuFile kFiles[] = {
     {L"Messaging.lnk", L"\\Windows\\Messaging.exe", 104},
     {L"Calendar.lnk", L"\\Windows\\Calendar.exe", 103},
@@ -12,7 +14,7 @@ constexpr StartMenuFile kFiles[] = {
     {L"Programs\\Calculator.lnk", L"\\Windows\\Calculator.exe", 120},
     {L"Programs\\File Manager.lnk", L"\\Windows\\FileManager.exe", 119},
     {L"Programs\\Help.lnk", L"\\Windows\\Help.exe", 137},
-    {L"Programs\\Notes.lnk", L"\\Windows\\Notes.exe", 109},
+    {L"Programs\\Notes.lnk", L"\\Windows\\notepad.exe", 109},
     {L"Programs\\Route Planner.lnk", L"\\Program Files\\Route Planner\\Planner.exe", 138},
     {L"Programs\\Search.lnk", L"\\Windows\\Search.exe", 121},
     {L"Programs\\Tasks.lnk", L"\\Windows\\Tasks.exe", 139},
@@ -33,7 +35,7 @@ constexpr StartMenuFile kFiles[] = {
     {L"Programs\\Office\\Spreadsheet.lnk", L"\\Program Files\\Office\\Sheet.exe", 107},
     {L"Programs\\Office\\Text Editor.lnk", L"\\Program Files\\Office\\Text.exe", 106},
     {L"Programs\\System\\Battery Monitor.lnk", L"\\Windows\\Battery.exe", 136},
-    {L"Programs\\System\\Task Manager.lnk", L"\\Windows\\TaskManager.exe", 118},
+    {L"Programs\\System\\Task Manager.lnk", L"\\Windows\\System32\\taskmgr.exe", 118},
 };
 
 } // namespace

@@ -16,11 +16,17 @@ constexpr const wchar_t* kRemovedFromMachine =
     L"\\SOFTWARE\\Orvane 2\\Tav Lumenar\\Device\\Installed\\Inbox Plus";
 constexpr const wchar_t* kRemovedFromUser = L"\\Software\\Tav Lumenar Device\\Quiet Hours";
 
+// One of the shell's own, whose names are translated.
+constexpr PluginKey Own(const wchar_t* name, const wchar_t* text, int64_t kind,
+                        int64_t inactive = kUnset)
+{
+    return {name, text, kind, 1, inactive};
+}
+
 constexpr PluginKey kKeys[] = {
-    // The shell's own, whose names are translated.
-    {L"Agenda", L"Week at a Glance", kCalendar, 1, 0},
-    {L"Mail", L"Message Summary", kEmail, 1, 1},
-    {L"Sky", L"Moon and Tides", kWeather, 1},
+    Own(L"Agenda", L"Week at a Glance", kCalendar, 0),
+    Own(L"Mail", L"Message Summary", kEmail, 1),
+    Own(L"Sky", L"Moon and Tides", kWeather),
     // Of other makers: on the device ...
     {L"SkyWatch", L"Sky Watch", kWeather, kUnset, 1, kInstalledForMachine},
     {L"RingControl", L"Ring Control", kProfile, 0, 0, nullptr, kInstalledForUser},

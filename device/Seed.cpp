@@ -21,7 +21,7 @@ namespace
 {
 
 // Rises whenever the sample data changes, so that an older device is seeded anew.
-constexpr DWORD kSampleVersion = 2;
+constexpr DWORD kSampleVersion = 3;
 constexpr const wchar_t* kVersionName = L"SampleData";
 
 const wchar_t* RootOf(sample::Layer layer)

@@ -9,7 +9,9 @@
 class CSoftKeys
 {
 public:
-    // Creates the bar of `window`. Without the shell library's help there is simply no bar.
+    // Creates the bar of `window`, and from then on keeps the window in the room between the top
+    // bar and the soft keys, whatever shape the screen takes. Without the shell library's help
+    // there is simply no bar.
     void Create(HWND window);
 
     // Writes the two keys anew.

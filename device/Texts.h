@@ -14,6 +14,18 @@ constexpr const wchar_t* kPinned = L"%d pinned";
 constexpr const wchar_t* kInUse = L"%d in use";
 constexpr const wchar_t* kHidden = L"%d hidden";
 constexpr const wchar_t* kNoProgram = L"This sample device has no program for '%s'.";
+constexpr const wchar_t* kNotStarted = L"'%s' could not be started.";
+constexpr const wchar_t* kGone = L"'%s' is no longer on this device.";
+constexpr const wchar_t* kCannotTurn = L"This screen can't be turned.";
+constexpr const wchar_t* kNoItems = L"There is nothing in this menu.";
+
+// The home screen's bands and city, and the page behind its right soft key.
+constexpr const wchar_t* kPinnedBand = L"Pinned";
+constexpr const wchar_t* kMostUsedBand = L"Most used";
+constexpr const wchar_t* kNothingUsed = L"What you use will be shown here.";
+constexpr const wchar_t* kNoCity = L"No city chosen";
+constexpr const wchar_t* kCustomize = L"Customize";
+constexpr const wchar_t* kHelp = L"Help";
 
 // The dialogs that can be opened.
 constexpr const wchar_t* kCustomizeMenu = L"Customize Menu";
@@ -43,11 +55,13 @@ constexpr const wchar_t* kNowRinger = L"Ringer on, alarm at 7:00";
 constexpr const wchar_t* kNowPlugin = L"Shown by a plug-in";
 
 constexpr const wchar_t* kAll[] = {
-    kMenu,        kExit,       kOpen,          kBack,          kPinned,       kInUse,
-    kHidden,      kNoProgram,  kCustomizeMenu, kCustomizeHome, kCustomizeNow, kInstallWizard,
-    kSelectCity,  kClassic,    kProfessional,  kNow,           kNowCalendar,  kNowMeeting,
-    kNowLunch,    kNowEmail,   kNowMessages,   kNowSubject,    kNowWeather,   kNowToday,
-    kNowTomorrow, kNowProfile, kNowNormal,     kNowRinger,     kNowPlugin};
+    kCannotTurn,    kMenu,          kExit,         kOpen,          kBack,        kPinned,
+    kInUse,         kHidden,        kNoProgram,    kNotStarted,    kGone,        kNoItems,
+    kPinnedBand,    kMostUsedBand,  kNothingUsed,  kNoCity,        kCustomize,   kHelp,
+    kCustomizeMenu, kCustomizeHome, kCustomizeNow, kInstallWizard, kSelectCity,  kClassic,
+    kProfessional,  kNow,           kNowCalendar,  kNowMeeting,    kNowLunch,    kNowEmail,
+    kNowMessages,   kNowSubject,    kNowWeather,   kNowToday,      kNowTomorrow, kNowProfile,
+    kNowNormal,     kNowRinger,     kNowPlugin};
 
 // The translation of a text, the text itself where there is none.
 std::wstring Translate(const wchar_t* text);

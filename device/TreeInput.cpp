@@ -42,6 +42,13 @@ HTREEITEM Child(HWND tree, HTREEITEM parent, int position)
     return node;
 }
 
+UINT BoxOf(HWND tree, HTREEITEM node)
+{
+    const LRESULT state =
+        SendMessageW(tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node), TVIS_STATEIMAGEMASK);
+    return (static_cast<UINT>(state) & TVIS_STATEIMAGEMASK) >> 12;
+}
+
 POINT MiddleOf(HWND tree, HTREEITEM node)
 {
     // The message takes the node from where it puts the rectangle.
@@ -55,6 +62,7 @@ POINT MiddleOf(HWND tree, HTREEITEM node)
 
 bool Select(HWND tree, HTREEITEM node)
 {
+    SendMessageW(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(node));
     return stylus::TapUntil([&] { return MiddleOf(tree, node); },
                             [&] { return Step(tree, TVGN_CARET, nullptr) == node; });
 }

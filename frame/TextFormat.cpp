@@ -67,6 +67,18 @@ String16 FormatText(StringView16 translated, StringView16 english, StringView16 
 
 String16 FormatText(StringView16 translated, StringView16 english, int value)
 {
-    const std::string digits = std::to_string(value);
-    return Format(translated, english, Char16{'d'}, String16(digits.begin(), digits.end()));
+    return Format(translated, english, Char16{'d'}, DecimalText(value));
+}
+
+String16 DecimalText(int value)
+{
+    // Without a sign, so that the smallest number has an opposite.
+    auto rest = static_cast<unsigned>(value);
+    if (value < 0)
+        rest = 0u - rest;
+    String16 digits;
+    do
+        digits.insert(digits.begin(), static_cast<Char16>('0' + rest % 10));
+    while ((rest /= 10) != 0);
+    return value < 0 ? Char16{'-'} + digits : digits;
 }

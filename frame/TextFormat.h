@@ -10,3 +10,6 @@ String16 FormatText(StringView16 translated, StringView16 english, StringView16 
 
 // The same with a number in decimal for the first "%d".
 String16 FormatText(StringView16 translated, StringView16 english, int value);
+
+// A number in decimal digits, as "%d" writes it.
+String16 DecimalText(int value);

@@ -77,6 +77,7 @@ UniqueText ReadTranslationFile(const wchar_t* path, size_t& length)
     DWORD size = 0;
     if (!file || !os::IsDiskFile(file.get()) || !SizeOf(file.get(), size))
         return nullptr;
-    return BeginsWithMark(file.get()) ? ReadUtf16(file.get(), size, length)
-                                      : ReadAnsi(file.get(), size, length);
+    if (BeginsWithMark(file.get()))
+        return ReadUtf16(file.get(), size, length);
+    return ReadAnsi(file.get(), size, length);
 }

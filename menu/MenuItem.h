@@ -65,6 +65,8 @@ public:
     // The kRt... bits.
     uint32_t GetRtFlags() const;
     void SetRtFlags(uint32_t flags);
+    // The name of the menu's rating list, empty when it has none.
+    std::wstring GetRating() const;
     // Most used items first. Switching it off keeps the rating list's name and kRtHasRating.
     void SetRated(bool on);
 

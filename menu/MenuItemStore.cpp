@@ -2,6 +2,7 @@
 // and the shared component's layers are only read.
 #include "menu/MenuItemStore.h"
 
+#include "frame/TextFormat.h"
 #include "frame/VORegistry.h"
 #include "menu/MemoryFailure.h"
 #include "menu/MenuItem.h"
@@ -84,7 +85,7 @@ std::wstring NewUserKeyName()
     CCreatedKey root(kCustomizeRootPath);
     const DWORD number = DwordOr(root, kLastKeyValue, 0) + 1;
     root.SetDWORD(kLastKeyValue, number);
-    return L"User " + std::to_wstring(static_cast<int32_t>(number));
+    return L"User " + DecimalText(static_cast<int32_t>(number));
 }
 
 void CMenuItem::SetIndex(int32_t index)
@@ -183,6 +184,16 @@ void CMenuItem::SetRtFlags(uint32_t flags)
     WithMemoryFailure([&] { CCreatedKey(MirrorPath(KeyPath)).SetDWORD(kRtFlagsValue, flags); });
 }
 
+std::wstring CMenuItem::GetRating() const
+{
+    return WithMemoryFailure(
+        [&]
+        {
+            const std::wstring name = CustomisedString(KeyPath, kRatingValue);
+            return IsRatingName(name) ? name : std::wstring();
+        });
+}
+
 void CMenuItem::SetRated(bool on)
 {
     WithMemoryFailure(
@@ -255,7 +266,7 @@ CMenuItemPtr CMenuItem::AddMenu(const std::wstring& text, int32_t image, CMenuTr
 CMenuItemPtr CMenuItem::AppendUserItem(const std::wstring& keyPath, const std::wstring& text,
                                        CMenuTree& tree)
 {
-    const CMenuItemPtr item(new CMenuItem(this));
+    CMenuItemPtr item(new CMenuItem(this));
     item->KeyPath = keyPath;
     item->Text = text;
     item->Index = ChildCount();

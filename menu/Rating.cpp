@@ -58,15 +58,6 @@ bool IsShortcut(std::wstring_view file)
                            kShortcutExtension);
 }
 
-std::wstring TargetName(const std::wstring& path, TargetKind kind)
-{
-    if (kind == TargetKind::Link)
-        return LinkEntryName(path);
-    CVORegistry key(HKEY_LOCAL_MACHINE, path.c_str(), FALSE, FALSE, 0);
-    const std::wstring file = key.GetString(kFileValue, nullptr);
-    return IsShortcut(file) ? LinkEntryName(file) : MenuEntryName(path);
-}
-
 std::wstring ListPath(const std::wstring& name)
 {
     return ChildPath(kRatingsRootPath, name);
@@ -172,6 +163,15 @@ std::wstring MenuEntryName(std::wstring_view keyPath)
     return std::wstring(L"m:").append(keyPath);
 }
 
+std::wstring EntryNameOf(const std::wstring& path, TargetKind kind)
+{
+    if (kind == TargetKind::Link)
+        return LinkEntryName(path);
+    CVORegistry key(HKEY_LOCAL_MACHINE, path.c_str(), FALSE, FALSE, 0);
+    const std::wstring file = key.GetString(kFileValue, nullptr);
+    return IsShortcut(file) ? LinkEntryName(file) : MenuEntryName(path);
+}
+
 bool ReadGlobalMru(CMruSlots& slots, uint32_t count)
 {
     return WithMemoryFailure(
@@ -201,7 +201,7 @@ bool SetGlobalPinned(bool pin, const std::wstring& path, TargetKind kind, DWORD 
     return WithMemoryFailure(
         [&]
         {
-            const std::wstring name = TargetName(path, kind);
+            const std::wstring name = EntryNameOf(path, kind);
             const CGlobalMruLock lock(timeout);
             if (!lock.IsHeld())
                 return false;

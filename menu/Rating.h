@@ -89,6 +89,9 @@ enum class TargetKind
 std::wstring LinkEntryName(std::wstring_view path);
 // The name of an entry for a menu item's key path.
 std::wstring MenuEntryName(std::wstring_view keyPath);
+// The name under which a target is entered: a menu item whose "File" is a shortcut counts as that
+// file.
+std::wstring EntryNameOf(const std::wstring& path, TargetKind kind);
 
 // Lays out the first `count` entries of the global list, where they were shown last as far as
 // possible. False when the list's lock can't be had; waits for it without limit.

@@ -4,7 +4,7 @@ export WINEDEBUG=-all
 export WINEARCH=win64
 
 # Changes with whatever make_prefix sets up, so that an older prefix is made anew.
-prefix_version=3
+prefix_version=4
 
 reg_set() { # KEY NAME TYPE VALUE
     wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1
@@ -14,6 +14,8 @@ reg_set() { # KEY NAME TYPE VALUE
 configure_prefix() {
     # Tahoma, the handheld's face, is found only inside the prefix.
     cp /usr/share/wine/fonts/tahoma*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    # Tahoma takes the Japanese glyphs it lacks from this face, which is another one here.
+    reg_set 'HKCU\Software\Wine\Fonts\Replacements' 'MS UI Gothic' REG_SZ Monapo
     # A crash ends the program at once: a crash dialog would wait for ever.
     reg_set 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
     # No window manager runs on the virtual screens; waiting for one makes each closing take 2 s.

@@ -15,15 +15,24 @@ use_device() {
 make_device() {
     make_prefix "$WINEPREFIX" "$dpi"
     prepare_folders
-    [ -f "$WINEPREFIX/.window" ] && return 0
-    # Unlike a bare virtual screen, a person's desktop has a window manager to move the device with.
-    reg_set 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ Y
-    touch "$WINEPREFIX/.window"
+    local managed=Y
+    # Unlike a screen of its own, a person's desktop has a window manager to move the device with.
+    has_own_screen && managed=N
+    [ "$(cat "$WINEPREFIX/.managed" 2>/dev/null)" = $managed ] && return 0
+    reg_set 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ $managed
+    echo $managed >"$WINEPREFIX/.managed"
+}
+
+# Whether the device can have a display server of its own, in a window, which can be turned. A
+# virtual desktop, which takes its place otherwise, has no upright shape to turn back to.
+has_own_screen() {
+    command -v Xephyr >/dev/null
 }
 
 prepare_folders() {
     local key='HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders'
     mkdir -p "$WINEPREFIX/$install_folder_in_prefix" "$WINEPREFIX/drive_c/windows/Start Menu/Programs"
+    cp device/help/TavLumenar.htm "$WINEPREFIX/$install_folder_in_prefix/"
     [ -f "$WINEPREFIX/.folders-2" ] && return 0
     # Without a drive letter, as on a handheld: the paths are also the names of what is pinned.
     reg_set "$key" 'Start Menu' REG_SZ '\Windows\Start Menu'
@@ -53,6 +62,7 @@ seed_device() {
 locale_of() { # LANGUAGE
     case "$1" in
     de) echo de_DE.UTF-8 ;;
+    ja) echo ja_JP.UTF-8 ;;
     ru) echo ru_RU.UTF-8 ;;
     *) echo en_US.UTF-8 ;;
     esac
@@ -69,9 +79,43 @@ choose_language() {
 }
 
 start_shell() { # ARGUMENTS...
-    # The output is Wine's chatter; a pipe would be kept open by the system processes it starts.
-    LC_ALL=$(locale_of "$language") wine explorer "/desktop=Lumenar,$screen" \
-        "$shell_program" "$@" >out/run-wine.log 2>&1 </dev/null
+    if ! has_own_screen; then
+        run_on_device explorer "/desktop=Lumenar,$screen" "$shell_program" "$@"
+        return
+    fi
+    take_device
+    # A server that saw another screen before goes on believing in it.
+    wineserver -k || true
+    open_screen
+    DISPLAY=:$own_display run_on_device "$shell_program" "$@" || true
+    kill "$screen_process" 2>/dev/null || true
+}
+
+# The output is Wine's chatter; a pipe would be kept open by the system processes it starts.
+run_on_device() { # PROGRAM ARGUMENTS...
+    LC_ALL=$(locale_of "$language") wine "$@" >out/run-wine.log 2>&1 </dev/null 9>&-
+}
+
+# One device is open once: a second shell would turn its screen from under the first.
+take_device() {
+    exec 9>"$WINEPREFIX/.open"
+    flock -n 9 || { echo "run: this device is open already" >&2; exit 1; }
+}
+
+# Opens the device's screen; its display is in `own_display` then, its process in `screen_process`.
+open_screen() {
+    local numbers=$WINEPREFIX/.display
+    rm -f "$numbers"
+    Xephyr -displayfd 3 -screen "$screen" -title "Tav Lumenar" -no-host-grab -nolisten tcp -noreset \
+        3>"$numbers" >out/run-screen.log 2>&1 </dev/null 9>&- &
+    screen_process=$!
+    trap 'kill "$screen_process" 2>/dev/null || true' EXIT
+    for _ in $(seq 100); do
+        [ -s "$numbers" ] && break
+        sleep 0.05
+    done
+    own_display=$(cat "$numbers")
+    [ -n "$own_display" ] || { echo "run: the device's screen could not be opened (see out/run-screen.log)" >&2; exit 1; }
 }
 
 open_dialog() {
@@ -90,7 +134,7 @@ open_dialog() {
 }
 
 open_shell() {
-    echo "The device is open. Close it with its right soft key."
+    echo "The device is open. F9 turns its screen; Customize and Exit close it."
     start_shell
     exit 0
 }

@@ -9,7 +9,7 @@ usage() {
                     (the last one also prints the city's record, decoded)
   --screen WxH      the device's screen in pixels (default 240x320)
   --dpi N           its resolution in dots per inch, 96 or more (default 96)
-  --language CODE   en, de or ru (default en)
+  --language CODE   en, de, ja, ru, or pseudo: accented, longer texts in brackets (default en)
   --fresh           reset the sample device first
   --pictures DIR    open nothing: take pictures of every view into DIR, without a display
   --help            this text
@@ -38,7 +38,7 @@ check_options() {
     [[ $dpi =~ ^[0-9]{2,3}$ ]] && [ "$dpi" -ge 96 ] && [ "$dpi" -le 480 ] ||
         refuse "'$dpi' is not a resolution from 96 to 480"
     [ "$language" = en ] || [[ $language =~ ^[a-z]+$ && -d device/languages/$language ]] ||
-        refuse "there is no language '$language'; try en, de or ru"
+        refuse "there is no language '$language'; try en, de, ja, ru or pseudo"
     [ -z "$dialog" ] ||
         is_one_of "$dialog" customize-menu customize-home customize-now install-wizard select-city ||
         refuse "there is no dialog '$dialog'"

@@ -9,37 +9,58 @@ source scripts/prefix.sh
 
 # screen size and the resolution of the prefix that goes with it
 screens=("240x320 96" "320x240 96" "480x640 192")
+# Screens that can be turned: windows, on a screen that is as wide as high, of a server that has the
+# shapes of handhelds.
+turning_screens=("turning-240x320 96" "turning-480x640 192")
 
-start_screen() { # DIR WIDTHxHEIGHT DPI
-    local dir=$1 size=$2 dpi=$3 number
-    # A prefix of its own for each screen: a prefix remembers the size of the first one it saw.
-    copy_prefix "$dir/prefix" "$dir/prefix-$size" "$dpi"
-    rm -f "$dir/$size.number"
-    Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset \
-        3>"$dir/$size.number" >"$dir/$size.log" 2>&1 </dev/null &
+# Starts a display server and waits until it answers; its number is in `number` then.
+start_server() { # DIR NAME COMMAND...
+    local dir=$1 name=$2
+    shift 2
+    rm -f "$dir/$name.number"
+    "$@" -displayfd 3 -nolisten tcp -noreset 3>"$dir/$name.number" >"$dir/$name.log" 2>&1 </dev/null &
     echo $! >>"$dir/pids"
     for _ in $(seq 100); do
-        [ -s "$dir/$size.number" ] && break
+        [ -s "$dir/$name.number" ] && break
         sleep 0.05
     done
-    number=$(cat "$dir/$size.number")
-    [ -n "$number" ] || { echo "session: no virtual screen for $size (see $dir/$size.log)" >&2; exit 1; }
-    printf 'DISPLAY=:%s\nWINEPREFIX=%s\n' "$number" "$dir/prefix-$size" >"$dir/$size.env"
+    number=$(cat "$dir/$name.number")
+    [ -n "$number" ] || { echo "session: no virtual screen for $name (see $dir/$name.log)" >&2; exit 1; }
+}
+
+start_screen() { # DIR NAME DPI COMMAND...
+    local dir=$1 name=$2 dpi=$3 number
+    shift 3
+    # A prefix of its own for each screen: a prefix remembers the size of the first one it saw.
+    copy_prefix "$dir/prefix" "$dir/prefix-$name" "$dpi"
+    start_server "$dir" "$name" "$@"
+    printf 'DISPLAY=:%s\nWINEPREFIX=%s\n' "$number" "$dir/prefix-$name" >"$dir/$name.env"
     # Kept alive between programs: a fresh server per program costs seconds.
-    WINEPREFIX=$dir/prefix-$size wineserver -p600 >/dev/null 2>&1 </dev/null
+    WINEPREFIX=$dir/prefix-$name wineserver -p600 >/dev/null 2>&1 </dev/null
+}
+
+start_turning_screens() { # DIR
+    local dir=$1 entry name dpi number host
+    start_server "$dir" host Xvfb -screen 0 800x800x24
+    host=$number
+    for entry in "${turning_screens[@]}"; do
+        read -r name dpi <<<"$entry"
+        start_screen "$dir" "$name" "$dpi" env DISPLAY=":$host" Xephyr -screen "${name#turning-}"
+    done
 }
 
 start() {
     stop "$1"
-    local dir entry
+    local dir entry size dpi
     mkdir -p "$1"
     dir=$(realpath "$1")
     : >"$dir/pids"
     make_prefix "$dir/prefix" 96
     for entry in "${screens[@]}"; do
-        # shellcheck disable=SC2086
-        start_screen "$dir" $entry
+        read -r size dpi <<<"$entry"
+        start_screen "$dir" "$size" "$dpi" Xvfb -screen 0 "${size}x24"
     done
+    start_turning_screens "$dir"
 }
 
 stop() {

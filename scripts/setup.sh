@@ -8,14 +8,23 @@ packages=(
     g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix clang-14 clang-format-14 libclang-rt-14-dev
     cmake ninja-build ccache git
 )
-# Running and testing Windows binaries: Wine, a virtual screen, the handheld's face Tahoma.
-packages+=(wine wine64 xvfb fonts-wine)
+# Running and testing Windows binaries: Wine, a virtual screen, one in a window that can be turned,
+# the handheld's face Tahoma, and Japanese glyphs drawn for its small sizes.
+packages+=(wine wine64 xvfb xserver-xephyr fonts-wine fonts-monapo)
 # Libraries and data of the module and the stand-in device.
 packages+=(libboost-dev libz-mingw-w64-dev dpkg-dev googletest tango-icon-theme)
 # The city database: its builder's libraries, country names and time zones.
 packages+=(zlib1g-dev libzip-dev libcli11-dev nlohmann-json3-dev libicu-dev iso-codes tzdata)
+# Translations: the library and the programs for translators' files.
+packages+=(libgettextpo-dev gettext)
 # Peers and instruments of the benchmarks and checks.
-packages+=(valgrind gettext libsqlite3-dev libarchive-dev unzip)
+packages+=(valgrind libsqlite3-dev libarchive-dev unzip)
+# Contact sheets of the pictures.
+packages+=(graphicsmagick)
+# Static analysis and the measuring of coverage.
+packages+=(clang-tidy-14 cppcheck gcovr)
+# Packages: archives and installers.
+packages+=(zip nsis)
 # Any npm will do, also one that was not installed as a package.
 command -v npm >/dev/null || packages+=(npm)
 

@@ -73,7 +73,7 @@ void CBitmapCache::Clear()
 // The old array stays when there is no room for a larger one.
 bool CBitmapCache::Grow()
 {
-    const size_t bytes = (m_capacity + kGrowth) * sizeof(BitmapEntry*);
+    const size_t bytes = (m_capacity + kGrowth) * sizeof(*m_entries);
     void* const grown =
         m_entries ? LocalReAlloc(m_entries, bytes, LMEM_MOVEABLE) : LocalAlloc(LMEM_FIXED, bytes);
     if (!grown)

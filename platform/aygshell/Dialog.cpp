@@ -44,6 +44,8 @@ LRESULT OnScreenChange(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
     FitMenuBar(dialog);
     RECT after{};
     GetWindowRect(dialog, &after);
+    if (!EqualRect(&before, &after))
+        CloseOpenMenu();
 
     const LRESULT result = DefSubclassProc(dialog, message, wParam, lParam);
     const bool isReset = message == WM_SETTINGCHANGE && wParam == kScreenReset;

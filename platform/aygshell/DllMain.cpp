@@ -60,6 +60,14 @@ bool IsScreenChange(UINT message, WPARAM wParam)
     return message == WM_SETTINGCHANGE && (wParam == kScreenReset || wParam == SPI_SETWORKAREA);
 }
 
+void CloseOpenMenu()
+{
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    if (GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & GUI_INMENUMODE) != 0)
+        EndMenu();
+}
+
 BOOL Fail(DWORD error)
 {
     SetLastError(error);

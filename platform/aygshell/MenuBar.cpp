@@ -58,7 +58,7 @@ HWND CMenuBar::Create(const SHMENUBARINFO& info, UniqueMenu menu)
     if (bar == nullptr || !bar->CreateParts(info))
     {
         // The window takes the object with it.
-        DestroyWindow(window);
+        DestroyWindow(window); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return nullptr;
     }
@@ -171,6 +171,8 @@ LRESULT CMenuBar::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (m_toolbar != nullptr && IsScreenChange(message, wParam))
         Fit();
+    if (m_isPopupOpen && message == WM_DISPLAYCHANGE)
+        CloseOpenMenu();
     switch (message)
     {
     case WM_MOUSEACTIVATE:

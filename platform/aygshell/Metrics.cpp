@@ -29,12 +29,24 @@ int Scaled(int logical)
     return (logical * ScreenDpi() + 48) / 96;
 }
 
+RECT AreaOnScreen(const RECT& area, int width, int height)
+{
+    if (area.right <= width && area.bottom <= height)
+        return area;
+    // Turned, the former height is the width; without that there is no margin to be kept.
+    const LONG right = width - std::max(0L, height - area.right);
+    const LONG bottom = height - std::max(0L, width - area.bottom);
+    return {area.left, area.top, right, bottom};
+}
+
 RECT WorkArea()
 {
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
     RECT area{};
     if (!SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0))
-        SetRect(&area, 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
-    return area;
+        SetRect(&area, 0, 0, width, height);
+    return AreaOnScreen(area, width, height);
 }
 
 RECT BarRect()

@@ -9,6 +9,11 @@ namespace shell
 // Logical pixels (of a 96 dpi screen) in device pixels.
 int Scaled(int logical);
 
+// A work area that reaches beyond a screen of this size was the area of the screen before it was
+// turned: the system tells of the turn first and may think of the work area later, or never.
+// Returns the same area, its margins kept, on the screen as it is now; any other area as it is.
+RECT AreaOnScreen(const RECT& area, int width, int height);
+
 // The part of the screen that the system leaves to programs.
 RECT WorkArea();
 

@@ -19,6 +19,10 @@ constexpr WPARAM kScreenReset = 0x3002;
 // Whether a message says that the screen or its work area may have another size now.
 bool IsScreenChange(UINT message, WPARAM wParam);
 
+// Closes the pop-up menu of the calling thread, if one is open: it stays where it was when the
+// screen changes below it.
+void CloseOpenMenu();
+
 // Sets the last error and returns FALSE, for the exported functions' failure paths.
 BOOL Fail(DWORD error);
 

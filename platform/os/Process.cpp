@@ -40,8 +40,11 @@ std::wstring FindProgram(const wchar_t* name)
 bool StartProgram(const wchar_t* name, const std::wstring& commandLine)
 {
     const std::wstring path = FindProgram(name);
-    if (path.empty())
-        return false;
+    return !path.empty() && StartProgramAt(path, commandLine);
+}
+
+bool StartProgramAt(const std::wstring& path, const std::wstring& commandLine)
+{
     // The system may write into the command line that it is given.
     std::vector<wchar_t> line(commandLine.begin(), commandLine.end());
     line.push_back(L'\0');

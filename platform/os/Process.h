@@ -11,4 +11,7 @@ namespace os
 // started; no handle stays open.
 bool StartProgram(const wchar_t* name, const std::wstring& commandLine);
 
+// The same with the program's full path.
+bool StartProgramAt(const std::wstring& path, const std::wstring& commandLine);
+
 } // namespace os

@@ -7,7 +7,7 @@ std::wstring HandheldClassName(HWND window)
 {
     wchar_t name[257] = {};
     GetClassNameW(window, name, 257);
-    const std::wstring spelling(name);
+    std::wstring spelling(name);
     if (spelling == L"Static")
         return L"static";
     if (spelling == L"ComboBox")

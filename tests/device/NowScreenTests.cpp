@@ -119,6 +119,49 @@ TEST_F(NowWindow, IsShownWhereItIsPutAndHiddenAgain)
     EXPECT_FALSE(IsWindowVisible(screen.Window()));
 }
 
+TEST_F(NowWindow, ScrollsAsFarAsThereAreMorePanelsThanFit)
+{
+    for (const wchar_t* name : {L"A", L"B", L"C", L"D", L"E", L"F", L"G"})
+    {
+        const std::wstring key = std::wstring(keys::kPlugins) + L"\\" + name;
+        m_hive.SetText(key.c_str(), L"Text", name);
+        m_hive.SetDword(key.c_str(), L"Kind", 0);
+        m_hive.SetDword(key.c_str(), L"Inactive", 0);
+    }
+    SetType(L"Detailed");
+    const CNowScreen screen;
+    screen.Show({0, 0, 200, 140});
+    ASSERT_TRUE(WaitUntil([&] { return screen.PanelCount() == 10; }));
+    screen.Scroll(-1);
+    screen.Scroll(1);
+    EXPECT_TRUE(WaitUntil([&] { return screen.FirstPanel() == 1; }));
+    screen.Scroll(100);
+    EXPECT_TRUE(WaitUntil([&] { return screen.FirstPanel() > 1; }));
+    EXPECT_LT(screen.FirstPanel(), 10);
+    // All of them fit on a larger screen.
+    screen.Show({0, 0, 200, 2000});
+    EXPECT_TRUE(WaitUntil([&] { return screen.FirstPanel() == 0; }));
+}
+
+TEST_F(NowWindow, ShowsExactlyThePluginsInUseOnceItIsToldToReadThemAnew)
+{
+    const CNowScreen screen;
+    ASSERT_EQ(4, screen.PanelCount());
+    const std::wstring key = std::wstring(keys::kPlugins) + L"\\A";
+    m_hive.SetText(key.c_str(), L"Text", L"A");
+    m_hive.SetDword(key.c_str(), L"Kind", 0);
+    m_hive.SetDword(key.c_str(), L"Inactive", 0);
+    const std::wstring second = std::wstring(keys::kPlugins) + L"\\B";
+    m_hive.SetText(second.c_str(), L"Text", L"B");
+    m_hive.SetDword(second.c_str(), L"Kind", 0);
+    m_hive.SetDword(second.c_str(), L"Inactive", 0);
+    screen.Refresh();
+    EXPECT_TRUE(WaitUntil([&] { return screen.PanelCount() == 5; }));
+    m_hive.SetDword(second.c_str(), L"Inactive", 1);
+    screen.Refresh();
+    EXPECT_TRUE(WaitUntil([&] { return screen.PanelCount() == 4; }));
+}
+
 TEST(WizardPictures, ShowTheTwoLayoutsAtTheSameSize)
 {
     const ScreenPixels classic = wizard::DrawPicture(LayoutType::Classic);

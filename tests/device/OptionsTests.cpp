@@ -8,7 +8,7 @@ TEST(Options, NothingAskedOpensTheHomeScreen)
     const Options options = ReadOptions({});
     EXPECT_TRUE(options.Error.empty());
     EXPECT_TRUE(options.Dialog.empty());
-    EXPECT_TRUE(options.Picture.empty());
+    EXPECT_TRUE(options.Pictures.empty());
     EXPECT_FALSE(options.Seed);
     EXPECT_FALSE(options.Fresh);
 }
@@ -20,10 +20,23 @@ TEST(Options, EverythingIsUnderstoodInAnyOrder)
     EXPECT_EQ(L"", options.Error);
     EXPECT_EQ(L"d", options.Dialog);
     EXPECT_EQ(L"r", options.Report);
-    EXPECT_EQ(L"home", options.Picture);
-    EXPECT_EQ(L"p.png", options.PictureFile);
+    ASSERT_EQ(1u, options.Pictures.size());
+    EXPECT_EQ(L"home", options.Pictures[0].View);
+    EXPECT_EQ(L"p.png", options.Pictures[0].File);
     EXPECT_TRUE(options.Seed);
     EXPECT_TRUE(options.Fresh);
+}
+
+TEST(Options, PicturesAreTakenInTheOrderInWhichTheyAreAskedFor)
+{
+    const Options options =
+        ReadOptions({L"--picture", L"now", L"1.png", L"--picture", L"home", L"2.png"});
+    EXPECT_EQ(L"", options.Error);
+    ASSERT_EQ(2u, options.Pictures.size());
+    EXPECT_EQ(L"now", options.Pictures[0].View);
+    EXPECT_EQ(L"1.png", options.Pictures[0].File);
+    EXPECT_EQ(L"home", options.Pictures[1].View);
+    EXPECT_EQ(L"2.png", options.Pictures[1].File);
 }
 
 TEST(Options, UnknownWordsAndMissingValuesAreErrors)

@@ -8,10 +8,11 @@
 TEST(PictureViews, EachViewBelongsToADialogThatCanBeOpened)
 {
     for (const wchar_t* view :
-         {L"customize-menu", L"menu-options", L"edit-menu", L"edit-item", L"choose-icon",
-          L"select-file", L"select-link", L"customize-home", L"customize-home-programs",
-          L"customize-now", L"install-wizard", L"select-city", L"select-city-search",
-          L"select-city-panel", L"select-city-no-database"})
+         {L"customize-menu", L"customize-menu-add", L"menu-options", L"menu-options-root",
+          L"edit-menu", L"edit-item", L"choose-icon", L"select-file", L"select-link",
+          L"customize-home", L"customize-home-programs", L"customize-home-limit", L"customize-now",
+          L"install-wizard", L"select-city", L"select-city-search", L"select-city-panel",
+          L"select-city-chosen", L"select-city-no-database"})
     {
         const wchar_t* const dialog = DialogOfView(view);
         ASSERT_NE(nullptr, dialog) << view;

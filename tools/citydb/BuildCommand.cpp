@@ -4,6 +4,7 @@
 #include "tools/citydb/Archive.h"
 #include "tools/citydb/Build.h"
 #include "tools/citydb/Errors.h"
+#include "tools/citydb/Files.h"
 
 #include <limits>
 #include <memory>
@@ -72,7 +73,7 @@ BuildResult BuildAndReport(BuildArguments& arguments, CProgress& progress, Conso
     {
         progress.End();
         if (!arguments.Report.empty())
-            problems.WriteReport(arguments.Report);
+            problems.WriteReport(PathOf(arguments.Report));
         if (!arguments.Quiet)
             PrintProblems(console.Err, arguments, problems);
     };
@@ -94,7 +95,7 @@ int RunBuild(BuildArguments& arguments, Console& console)
     arguments.Options.List.Details = !arguments.NoDetails;
     CProgress progress(arguments.Quiet ? kNoFile : console.ErrFile);
     const BuildResult result = BuildAndReport(arguments, progress, console);
-    const std::filesystem::path path = ArchivePath(arguments.Out, arguments.Form);
+    const std::filesystem::path path = ArchivePath(PathOf(arguments.Out), arguments.Form);
     progress.Begin("writing " + path.string(), 0);
     WriteArchive(path, arguments.Form, result.Image);
     progress.End();
@@ -158,9 +159,10 @@ void AddFileOptions(CLI::App& command, BuildArguments& arguments)
         ->transform(CLI::CheckedTransformer(forms))
         ->option_text("FORM");
     command.add_option("--country-names", arguments.Options.CountryFile,
-                       "table of country names, by default that of Debian's iso-codes");
+                       "table of country names in the layout of iso-codes, by default " +
+                           arguments.Options.CountryFile);
     command.add_option("--zones", arguments.Options.ZoneFile,
-                       "zone.tab of the tz database, by default the system's");
+                       "zone.tab of the tz database, by default " + arguments.Options.ZoneFile);
 }
 
 } // namespace

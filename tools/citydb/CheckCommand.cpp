@@ -2,6 +2,7 @@
 #include "tools/citydb/Commands.h"
 
 #include "tools/citydb/Archive.h"
+#include "tools/citydb/Files.h"
 #include "tools/citydb/ImageCheck.h"
 
 #include <algorithm>
@@ -36,7 +37,7 @@ void PrintFaults(const CheckArguments& arguments, const CheckResult& result, std
 
 int RunCheck(const CheckArguments& arguments, Console& console)
 {
-    const CLoadedImage image = ReadArchive(arguments.File);
+    const CLoadedImage image = ReadArchive(PathOf(arguments.File));
     const CheckResult result = CheckImage(image.Data(), image.Size());
     PrintFaults(arguments, result, console.Out);
     if (result.FaultCount > 0)

@@ -27,6 +27,11 @@ std::string LastError()
 
 } // namespace
 
+std::filesystem::path PathOf(const std::string& utf8)
+{
+    return std::filesystem::u8path(utf8);
+}
+
 std::string ReadFile(const std::filesystem::path& path, uint64_t limit)
 {
     std::error_code error;

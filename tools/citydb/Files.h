@@ -10,6 +10,10 @@
 namespace citydb
 {
 
+// The path that a UTF-8 name from the command line means; by itself the C++ library takes narrow
+// names on Windows for those of an old code page.
+std::filesystem::path PathOf(const std::string& utf8);
+
 // The bytes of a file; throws CInputError when it can't be read or is larger than `limit`.
 std::string ReadFile(const std::filesystem::path& path, uint64_t limit);
 

@@ -83,7 +83,7 @@ public:
         }
         if (end > 0xFFFFFFFF)
             throw CInputError("the image would be larger than 4 GB");
-        m_image.resize(end);
+        m_image.resize(static_cast<size_t>(end));
     }
 
     std::vector<uint8_t> Build()

@@ -4,6 +4,7 @@
 #include "dialogs/city/CitySearch.h"
 #include "tools/citydb/Database.h"
 #include "tools/citydb/Errors.h"
+#include "tools/citydb/Files.h"
 #include "tools/citydb/Text.h"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ struct ListArguments
 
 void List(const ListArguments& arguments, const String16& text, Console& console)
 {
-    const CDatabase database(arguments.File);
+    const CDatabase database(PathOf(arguments.File));
     CCitySearch search(FoldTable());
     search.Attach(database.Image());
     const uint32_t found = search.Search(text, true, 0);

@@ -23,6 +23,8 @@ int RunProgram(int argc, const char* const* argv, Console& console)
 {
     CLI::App app("Builds, checks and searches the city database of the dialogs.", "citydb");
     app.require_subcommand(1);
+    // A leading slash begins a path on every system.
+    app.allow_windows_style_options(false);
     Command chosen;
     AddBuildCommand(app, console, chosen);
     AddCheckCommand(app, console, chosen);

@@ -1,9 +1,8 @@
 #include "tools/citydb/Progress.h"
 
-#include <algorithm>
+#include "tools/citydb/Terminal.h"
 
-#include <sys/ioctl.h>
-#include <unistd.h>
+#include <algorithm>
 
 namespace citydb
 {
@@ -12,25 +11,10 @@ namespace
 {
 
 constexpr std::chrono::milliseconds kBetweenDrawings(100);
-constexpr size_t kUsualColumns = 80;
-
-size_t ColumnsOf(int file)
-{
-    winsize size{};
-    if (ioctl(file, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
-        return kUsualColumns;
-    return size.ws_col;
-}
-
-void Put(int file, const std::string& text)
-{
-    // A bar that can't be drawn is no reason to stop.
-    [[maybe_unused]] const ssize_t written = write(file, text.data(), text.size());
-}
 
 } // namespace
 
-CProgress::CProgress(int file) : m_file(file), m_isTerminal(isatty(file) == 1) {}
+CProgress::CProgress(int file) : m_file(file), m_isTerminal(IsTerminal(file)) {}
 
 void CProgress::Begin(const std::string& task, size_t total)
 {
@@ -54,13 +38,14 @@ void CProgress::Show(size_t done)
 void CProgress::End()
 {
     if (m_isDrawn)
-        Put(m_file, "\r\x1B[K");
+        WriteTerminal(m_file, "\r\x1B[K");
     m_isDrawn = false;
 }
 
 void CProgress::Draw(size_t done)
 {
-    Put(m_file, "\r" + ProgressLine(m_task, done, m_total, ColumnsOf(m_file) - 1) + "\x1B[K");
+    WriteTerminal(m_file, "\r" + ProgressLine(m_task, done, m_total, TerminalColumns(m_file) - 1) +
+                              "\x1B[K");
     m_isDrawn = true;
 }
 

@@ -4,6 +4,7 @@
 #include "tools/citydb/Database.h"
 #include "tools/citydb/Details.h"
 #include "tools/citydb/Errors.h"
+#include "tools/citydb/Files.h"
 #include "tools/citydb/Text.h"
 
 #include <algorithm>
@@ -73,7 +74,7 @@ void PrintCity(const CDatabase& database, uint32_t record, std::ostream& out)
 
 void Show(const ShowArguments& arguments, Console& console)
 {
-    const CDatabase database(arguments.File);
+    const CDatabase database(PathOf(arguments.File));
     const uint32_t count = database.Image().CityCount();
     bool isFound = false;
     for (uint32_t record = 0; record < count; ++record)

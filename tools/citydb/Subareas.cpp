@@ -48,7 +48,7 @@ void GiveSecondLevel(ListedCity& city, const CRegionNames& regions)
     if (name == nullptr || *name == city.Region)
         return;
     city.RegionCode = code;
-    city.Region = city.Region.empty() ? *name : *name + u", " + city.Region;
+    city.Region = city.Region.empty() ? *name : *name + TEXT16(", ") + city.Region;
 }
 
 // Returns how many rows nothing tells apart.

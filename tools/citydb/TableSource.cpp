@@ -76,7 +76,7 @@ void ReadTableSource(const std::string& file, const std::string& text, CRowColle
 
 void ReadSource(const std::string& file, CRowCollector& collector, CProgress& progress)
 {
-    const std::string text = ReadFile(file, kFileLimit);
+    const std::string text = ReadFile(PathOf(file), kFileLimit);
     progress.Begin("reading " + file, text.size());
     if (LooksLikeJson(text))
         ReadJsonSource(file, text, collector, progress);

@@ -158,6 +158,22 @@ TEST_F(ScreenChange, ADisplayChangeThatMovesTheDialogIsFollowedByTheHandheldsRes
     EXPECT_EQ(dialog.Count(WM_SETTINGCHANGE), 1);
 }
 
+TEST_F(ScreenChange, AWorkAreaFromBeforeTheTurnKeepsItsMarginsOnTheTurnedScreen)
+{
+    const LONG width = GetSystemMetrics(SM_CXSCREEN);
+    const LONG height = GetSystemMetrics(SM_CYSCREEN);
+    Disturb();
+    const RECT earlier = WorkArea();
+    // Of the screen as it was: its width is the height now.
+    RECT before{5, 20, height - 7, width - 11};
+    ASSERT_TRUE(SystemParametersInfoW(SPI_SETWORKAREA, 0, &before, 0));
+    SendMessageW(dialog.Window(), WM_DISPLAYCHANGE, 24, MAKELPARAM(width, height));
+    RECT restored = earlier;
+    SystemParametersInfoW(SPI_SETWORKAREA, 0, &restored, 0);
+    const RECT expected{5, 20, width - 7, height - 11 - Scaled(26)};
+    EXPECT_EQ(seenDialog, expected);
+}
+
 TEST_F(ScreenChange, OtherSettingsMoveNothing)
 {
     Disturb();

@@ -1,29 +1,12 @@
 // Places and sizes of the three dialogs, on every size of screen and in every language.
 #include "tests/dialogs/menu/edit/EditFixture.h"
+#include "tests/support/LanguageFile.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/Screen.h"
 #include "tests/support/TranslationFixture.h"
 
 namespace
 {
-
-// What the device's translators wrote, as a translation file in UTF-16.
-std::wstring TextsOf(const std::string& language)
-{
-    const std::string path = std::string(TAV_LANGUAGES) + "/" + language + "/texts.txt";
-    const UniqueFile file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    EXPECT_TRUE(file) << path;
-    std::string bytes(file ? GetFileSize(file.get(), nullptr) : 0, '\0');
-    DWORD length = 0;
-    EXPECT_TRUE(
-        ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &length, nullptr));
-    std::wstring text(bytes.size(), L'\0');
-    text.resize(
-        static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, bytes.data(), static_cast<int>(length),
-                                                text.data(), static_cast<int>(text.size()))));
-    return text;
-}
 
 // The languages of the device, English without a file, and one whose translation asks for larger
 // glyphs.
@@ -38,7 +21,7 @@ protected:
         if (language == kLarge)
             texts = L"_LARGE_SMALL_FONTS|1\n";
         else if (language != kEnglish)
-            texts = TextsOf(language);
+            texts = ReadLanguageFile(TAV_LANGUAGES, language);
         SetInstallFolder(registry, folder);
         // The editor is recognised by its English title; of two entries the later one counts.
         WriteTranslation(folder, texts + L"Customize Menu|Customize Menu\n");
@@ -134,6 +117,22 @@ protected:
     EditGeometryIn() : EditGeometry(GetParam()) {}
 };
 
+class EditGeometryInJapanese : public EditGeometry
+{
+protected:
+    EditGeometryInJapanese() : EditGeometry("ja") {}
+
+    // The font of a control of the open dialog, by height in logical pixels and weight.
+    void ExpectFont(int id, int height, int weight) const
+    {
+        LOGFONTW font = {};
+        const auto handle = reinterpret_cast<HFONT>(SendMessageW(Control(id), WM_GETFONT, 0, 0));
+        ASSERT_NE(0, GetObjectW(handle, sizeof(font), &font)) << id;
+        EXPECT_EQ(Px(height), font.lfHeight) << id;
+        EXPECT_EQ(weight, font.lfWeight) << id;
+    }
+};
+
 std::string NameOf(const testing::TestParamInfo<const char*>& info)
 {
     return info.param == kEnglish ? "en" : info.param;
@@ -196,6 +195,17 @@ TEST_F(EditGeometry, ATurnedScreenIsFilledAgain)
     EXPECT_EQ(RectOf(choice).bottom, RectOf(list).bottom);
 }
 
+TEST_F(EditGeometryInJapanese, TextsAreFourteenPixelsHighAndNeverBold)
+{
+    OpenMenu();
+    EXPECT_EQ(L"項目の編集", TextOf(edit));
+    EXPECT_EQ(L"名前:", TextOf(Control(216)));
+    ExpectFont(216, 14, FW_NORMAL);
+    // Bold in other languages.
+    EXPECT_EQ(L"変更...", TextOf(Control(kChangeId)));
+    ExpectFont(kChangeId, 14, FW_NORMAL);
+}
+
 TEST_P(EditGeometryIn, TheControlsOfAMenuStandApartAndNoTextIsCut)
 {
     OpenMenu();
@@ -221,5 +231,5 @@ TEST_P(EditGeometryIn, TheTitleOfChooseIconIsNotCut)
     ExpectTitleFits(choice);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, EditGeometryIn, testing::Values(kEnglish, "de", "ru", kLarge),
+INSTANTIATE_TEST_SUITE_P(All, EditGeometryIn, testing::Values(kEnglish, "de", "ja", "ru", kLarge),
                          NameOf);
