@@ -54,7 +54,7 @@ CHomeScreen::CHomeScreen(const CNowScreen& now)
     m_keys.Create(Window());
     m_isReady = true;
     SetTimer(Window(), kClockTimer, kClockPeriod, nullptr);
-    GoTo(PageId::Home);
+    CHomeScreen::GoTo(PageId::Home);
 }
 
 CHomeScreen::~CHomeScreen()

@@ -50,7 +50,7 @@ std::wstring OpenContextMenu(HWND tree, HTREEITEM node)
 // The soft key's menu and the one of things to add.
 std::wstring OpenAddMenu(HWND editor)
 {
-    const std::wstring problem = OpenSoftKeyMenu(editor);
+    std::wstring problem = OpenSoftKeyMenu(editor);
     if (!problem.empty())
         return problem;
     for (const WORD key : kToAdd)
@@ -66,7 +66,7 @@ HWND WaitForSubDialog(HWND above)
 // Opens a sub-dialog with the soft key's menu and some keys in it.
 std::wstring OpenWith(HWND editor, std::initializer_list<WORD> keys, HWND& opened)
 {
-    const std::wstring problem = OpenSoftKeyMenu(editor);
+    std::wstring problem = OpenSoftKeyMenu(editor);
     if (!problem.empty())
         return problem;
     for (const WORD key : keys)

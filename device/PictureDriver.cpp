@@ -100,7 +100,7 @@ std::wstring CPictureDriver::TakePicture()
     m_dialog = open::WaitForDialog(m_uiThread, nullptr);
     if (!m_dialog)
         return L"no dialog appeared";
-    const std::wstring problem = BringUpView();
+    std::wstring problem = BringUpView();
     if (!problem.empty())
         return problem;
     // On a busy machine the screen looks settled although parts of it are still to come.

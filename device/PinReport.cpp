@@ -28,8 +28,8 @@ Names PinnedNames(const RegistrySnapshot& snapshot)
     for (const Ratings::CEntry& entry :
          Ratings::DecodeIndex(index->Data.data(), index->Data.size()))
         if (entry.IsPinned())
-            names.insert(TextOf(
-                FindValue(snapshot, keys::kGlobalList, Ratings::ValueName(entry.Number).c_str())));
+            names.insert(
+                TextOf(FindValue(snapshot, keys::kGlobalList, Ratings::ValueName(entry.Number))));
     return names;
 }
 
@@ -41,7 +41,7 @@ std::wstring TitleOf(const RegistrySnapshot& snapshot, const std::wstring& name)
         return LinkText(path);
     for (const std::wstring& place : {path, MirrorPath(path)})
     {
-        const std::wstring text = TextOf(FindValue(snapshot, place, kTextValue));
+        std::wstring text = TextOf(FindValue(snapshot, place, kTextValue));
         if (!text.empty())
             return text;
     }

@@ -40,8 +40,14 @@ void AddToSnapshot(const std::wstring& path, RegistrySnapshot& snapshot)
     std::wstring name;
     for (DWORD i = 0; os::EnumValue(key.Key, i, name) == ERROR_SUCCESS; ++i)
         values[name] = ReadValue(key.Key, name);
+    std::wstring below;
     for (DWORD i = 0; key.EnumKey(i, name); ++i)
-        AddToSnapshot(path + L"\\" + name, snapshot);
+    {
+        below = path;
+        below += L'\\';
+        below += name;
+        AddToSnapshot(below, snapshot);
+    }
 }
 
 RegistrySnapshot TakeSnapshot()

@@ -30,7 +30,7 @@ constexpr MenuKey UserLink(const wchar_t* path, const wchar_t* text, const wchar
     return MenuKey(Layer::Customised, path, text).OfUser().Target(file);
 }
 
-constexpr MenuKey kKeys[] = {
+const MenuKey kKeys[] = {
     // What the product brings.
     MenuKey(Layer::Product, L"").Container().Grid(),
     Product(L"Programs", L"Programs").At(0).Icon(100),

@@ -53,7 +53,7 @@ POINT MiddleOf(HWND tree, HTREEITEM node)
 {
     // The message takes the node from where it puts the rectangle.
     RECT label = {};
-    memcpy(&label, &node, sizeof(node));
+    memcpy(&label, &node, sizeof(HTREEITEM));
     SendMessageW(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&label));
     POINT middle = {(label.left + label.right) / 2, (label.top + label.bottom) / 2};
     ClientToScreen(tree, &middle);

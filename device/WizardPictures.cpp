@@ -53,13 +53,20 @@ ScreenPixels DrawLarge(LayoutType type)
     return pixels;
 }
 
+// Where one colour of a pixel stands among the bytes.
+size_t PositionOf(const ScreenPixels& pixels, int x, int y, int channel)
+{
+    return static_cast<size_t>(y) * static_cast<size_t>(pixels.Stride()) +
+           static_cast<size_t>(x) * 3 + static_cast<size_t>(channel);
+}
+
 // The mean of one colour channel over a block.
 uint8_t MeanOf(const ScreenPixels& large, int column, int row, int channel)
 {
     int sum = 0;
     for (int y = row * kBlock; y < (row + 1) * kBlock; ++y)
         for (int x = column * kBlock; x < (column + 1) * kBlock; ++x)
-            sum += large.Bytes[static_cast<size_t>(y * large.Stride() + x * 3 + channel)];
+            sum += large.Bytes[PositionOf(large, x, y, channel)];
     return static_cast<uint8_t>(sum / (kBlock * kBlock));
 }
 
@@ -88,8 +95,7 @@ ScreenPixels DrawPicture(LayoutType type)
     for (int y = 0; y < small.Height; ++y)
         for (int x = 0; x < small.Width; ++x)
             for (int channel = 0; channel < 3; ++channel)
-                small.Bytes[static_cast<size_t>(y * small.Stride() + x * 3 + channel)] =
-                    MeanOf(large, x, y, channel);
+                small.Bytes[PositionOf(small, x, y, channel)] = MeanOf(large, x, y, channel);
     return small;
 }
 

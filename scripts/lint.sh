@@ -1,23 +1,38 @@
 #!/usr/bin/env bash
 # Static analysis of everything that ships: scripts/lint.sh [FILES...]. Needs the builds "x86_64" and
-# "native" to be configured (./build does that). Prints what it finds; the exit code tells whether.
+# "native" (./build x86_64, ./build native). Prints what it finds; the exit code tells whether.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-rooms=(frame menu skin ui dialogs platform device)
-runtime=$(x86_64-w64-mingw32-g++-posix -print-file-name=include)
-cxx=${runtime%/include}/include/c++
-
 files=("$@")
-[ ${#files[@]} -gt 0 ] || mapfile -t files < <(find "${rooms[@]}" -name '*.cpp' | sort)
+[ ${#files[@]} -gt 0 ] || mapfile -t files < <(find frame menu skin ui dialogs platform device tools -name '*.cpp' | sort)
 
-tidy() {
+# The tools are this machine's programs, but for what they need Windows for.
+native=() windows=()
+for file in "${files[@]}"; do
+    case "$file" in
+    tools/*/windows/*) windows+=("$file") ;;
+    tools/*) native+=("$file") ;;
+    *) windows+=("$file") ;;
+    esac
+done
+
+tidy() { # BUILD "FILES..." ARGUMENTS...
+    local build=$1 list=$2
+    shift 2
+    [ -n "$list" ] || return 0
+    # shellcheck disable=SC2086
+    printf '%s\n' $list | xargs -n 4 -P "$(nproc)" clang-tidy-14 --quiet -p "$build" "$@" \
+        2> >(grep -v 'warnings\? generated' >&2)
+}
+
+tidy_windows() {
     # The compiler's own headers stand where clang does not look for them.
-    printf '%s\0' "${files[@]}" |
-        xargs -0 -n 4 -P "$(nproc)" clang-tidy-14 --quiet -p out/x86_64 \
-            --extra-arg=--target=x86_64-w64-mingw32 \
-            --extra-arg=-isystem"$cxx" --extra-arg=-isystem"$cxx/x86_64-w64-mingw32" \
-            --extra-arg=-Wno-unused-command-line-argument 2> >(grep -v 'warnings\? generated' >&2)
+    local headers
+    headers=$(x86_64-w64-mingw32-g++-posix -print-file-name=include)/c++
+    tidy out/x86_64 "${windows[*]}" --extra-arg=--target=x86_64-w64-mingw32 \
+        --extra-arg=-isystem"$headers" --extra-arg=-isystem"$headers/x86_64-w64-mingw32" \
+        --extra-arg=-Wno-unused-command-line-argument
 }
 
 check() {
@@ -28,6 +43,7 @@ check() {
 }
 
 failed=0
-tidy || failed=1
 check || failed=1
+tidy_windows || failed=1
+tidy out/native "${native[*]}" || failed=1
 exit $failed

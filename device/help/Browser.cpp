@@ -71,7 +71,7 @@ Browser FindBrowser()
 {
     for (const wchar_t* kind : {L"http", L".htm"})
     {
-        const Browser found = {Ask(ASSOCSTR_EXECUTABLE, kind), Ask(ASSOCSTR_COMMAND, kind)};
+        Browser found = {Ask(ASSOCSTR_EXECUTABLE, kind), Ask(ASSOCSTR_COMMAND, kind)};
         const bool exists = GetFileAttributesW(found.Program.c_str()) != INVALID_FILE_ATTRIBUTES;
         if (exists && !found.Command.empty() && IsBrowser(found.Program, IsOnWine()))
             return found;

@@ -121,7 +121,7 @@ std::wstring CHelpWindow::Load(const std::wstring& path)
 
 std::wstring CHelpWindow::Open(const std::wstring& path, const std::wstring& topic)
 {
-    const std::wstring problem = Load(path);
+    std::wstring problem = Load(path);
     if (!problem.empty())
         return problem;
     m_places.clear();

@@ -32,8 +32,10 @@ public:
     CConverter& operator=(const CConverter&) = delete;
 
     // One character; false when the encoding lacks it.
-    bool Append(std::string& bytes, std::string character)
+    bool Append(std::string& bytes, const std::string& text)
     {
+        // The library asks for text that it may write to.
+        std::string character(text);
         std::array<char, 16> buffer;
         char* in = character.data();
         size_t inLeft = character.size();

@@ -16,7 +16,7 @@ namespace
 // fatal error, and an exception must not pass through it.
 struct Report
 {
-    std::string* Errors = nullptr;
+    std::string Errors;
     std::jmp_buf Fatal;
 };
 
@@ -24,7 +24,7 @@ Report g_report;
 
 void Append(const char* file, size_t line, const char* text)
 {
-    std::string& errors = *g_report.Errors;
+    std::string& errors = g_report.Errors;
     if (!errors.empty())
         errors += '\n';
     if (file)
@@ -74,8 +74,9 @@ bool WriteOrJump(po_file_t file, const char* path)
     return po_file_write(file, path, &kHandler) != nullptr;
 }
 
-[[noreturn]] void Fail(const std::string& errors, const std::string& path, const char* what)
+[[noreturn]] void Fail(const std::string& path, const char* what)
 {
+    const std::string& errors = g_report.Errors;
     const std::string reason = errno == 0 ? "" : std::string(": ") + std::strerror(errno);
     throw citydb::CInputError(errors.empty() ? path + ": " + what + reason : errors);
 }
@@ -84,24 +85,22 @@ bool WriteOrJump(po_file_t file, const char* path)
 
 UniquePoFile ReadPo(const std::filesystem::path& path)
 {
-    std::string errors;
-    g_report.Errors = &errors;
+    g_report.Errors.clear();
     const std::string name = path.string();
     if (std::filesystem::is_directory(path))
         throw citydb::CInputError(name + ": is a folder");
     UniquePoFile file(ReadOrJump(name.c_str()));
-    if (!file || !errors.empty())
-        Fail(errors, name, "can't be read");
+    if (!file || !g_report.Errors.empty())
+        Fail(name, "can't be read");
     return file;
 }
 
 void WritePo(const UniquePoFile& file, const std::filesystem::path& path)
 {
-    std::string errors;
-    g_report.Errors = &errors;
+    g_report.Errors.clear();
     const std::string name = path.string();
-    if (!WriteOrJump(file.get(), name.c_str()) || !errors.empty())
-        Fail(errors, name, "can't be written");
+    if (!WriteOrJump(file.get(), name.c_str()) || !g_report.Errors.empty())
+        Fail(name, "can't be written");
 }
 
 std::string HeaderField(const char* header, const char* field)

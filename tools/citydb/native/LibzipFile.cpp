@@ -68,7 +68,7 @@ void WriteZip(const std::filesystem::path& path, const char* member,
         zip_close(archive.get()) != 0)
         FailZip(path, archive.get());
     // Closed and freed.
-    archive.release();
+    static_cast<void>(archive.release());
 }
 
 std::vector<uint8_t> ReadZip(const std::filesystem::path& path, const char* member, uint64_t limit)
