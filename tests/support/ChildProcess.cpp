@@ -46,6 +46,23 @@ public:
     }
 };
 
+// On a busy machine the system sometimes refuses a process with an error of its own making, before
+// anything of it has begun: asked again, it starts.
+bool StartProcess(const wchar_t* program, std::wstring& commandLine, PROCESS_INFORMATION& process)
+{
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    for (int refusals = 0; refusals < 5; ++refusals)
+    {
+        if (CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                           nullptr, &startup, &process))
+            return true;
+        if (GetLastError() != ERROR_INTERNAL_ERROR)
+            return false;
+    }
+    return false;
+}
+
 } // namespace
 
 namespace child_process
@@ -69,12 +86,8 @@ CChildProcess::CChildProcess(const wchar_t* entry, const std::wstring& argument)
 
     SetEnvironmentVariableW(kEntryVariable, entry);
     SetEnvironmentVariableW(kArgumentVariable, argument.c_str());
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
     PROCESS_INFORMATION process = {};
-    EXPECT_TRUE(CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                               nullptr, &startup, &process))
-        << GetLastError();
+    EXPECT_TRUE(StartProcess(program, commandLine, process)) << GetLastError();
     SetEnvironmentVariableW(kEntryVariable, nullptr);
     SetEnvironmentVariableW(kArgumentVariable, nullptr);
     if (process.hThread)
