@@ -1,5 +1,6 @@
 #include "tools/translations/Pseudo.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <vector>
@@ -77,6 +78,7 @@ std::string Lengthened(const std::vector<Piece>& pieces, size_t lacking)
     size_t vowels = 0;
     for (const Piece& piece : pieces)
         vowels += piece.MayRepeat ? 1u : 0u;
+    const size_t shares = std::max<size_t>(vowels, 1);
     std::string text;
     size_t seen = 0;
     for (const Piece& piece : pieces)
@@ -85,7 +87,7 @@ std::string Lengthened(const std::vector<Piece>& pieces, size_t lacking)
         if (!piece.MayRepeat)
             continue;
         // Spread evenly, what is left over at the first ones.
-        const size_t extra = lacking / vowels + (seen++ < lacking % vowels ? 1 : 0);
+        const size_t extra = lacking / shares + (seen++ < lacking % shares ? 1 : 0);
         for (size_t i = 0; i < extra; ++i)
             text += piece.Text;
     }
