@@ -1,6 +1,5 @@
 // What the standard library's containers do when they are misused or find no memory. The runtime's
-// own functions throw exceptions that carry a text: 45 KB of code that nobody would read the text
-// of.
+// own functions throw exceptions with texts: 45 KB of code for words that nobody reads.
 #include <new>
 
 #include "frame/TavException.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "frame/TextFormat.h"
 #include "platform/Bytes.h"
 
 namespace Ratings
@@ -202,13 +203,7 @@ uint16_t CFreeNumbers::Next()
 
 String16 ValueName(uint16_t number)
 {
-    String16 digits;
-    do
-    {
-        digits.insert(digits.begin(), static_cast<Char16>('0' + number % 10));
-        number = static_cast<uint16_t>(number / 10);
-    } while (number != 0);
-    return digits;
+    return DecimalText(number);
 }
 
 CPlacement Place(const EntryList& entries, size_t count, std::vector<uint16_t>& hints)

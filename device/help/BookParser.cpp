@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "device/help/HtmlReader.h"
+#include "frame/TextFormat.h"
 
 namespace help
 {
@@ -115,10 +116,7 @@ BlockKind KindOfHeading(const String16& name)
 
 String16 NumberText(int number)
 {
-    String16 digits;
-    for (int rest = number; rest > 0; rest /= 10)
-        digits.insert(digits.begin(), static_cast<Char16>('0' + rest % 10));
-    return digits + Char16{'.'};
+    return DecimalText(number) + Char16{'.'};
 }
 
 int CBookBuilder::Indent() const
